@@ -1,0 +1,324 @@
+/*
+ * tivex: payments in the Single Euro Payments Area.
+ *
+ * The library writes pain.001 documents from key-value transactions under ten
+ * national rulebooks and validates IBANs and BICs. This header is its whole
+ * interface; it is valid C89, C11 and C++.
+ *
+ * What holds for every function
+ *
+ * - Texts are NUL-terminated 8-bit strings in UTF-8. All lengths and limits
+ *   count bytes, without the NUL, so a letter with an umlaut counts two.
+ *   Letters, digits and case mean ASCII, whatever locale the host has set.
+ * - The library copies every text that it keeps; the host keeps owning what it
+ *   passes in. The one thing the host must release is the document that
+ *   tivex_toXML returns, with the C run-time's free().
+ * - Nothing is printed, logged or thrown, and no call ends the process. Results
+ *   are small integers; the reason of a failure is read with tivex_getError.
+ * - The library creates no threads. A message belongs to one thread at a time;
+ *   different messages may be used by different threads, and tivex_iban_check
+ *   may be called by any number of threads at once. tivex_init and
+ *   tivex_cleanup are called while no other thread is inside the library.
+ * - Account data is overwritten with zeros before its memory is released.
+ */
+#ifndef TIVEX_H
+#define TIVEX_H
+
+/* The version, stated here and nowhere else: the build reads it from these two
+   lines. TIVEX_VERSION_INT is major * 10000 + minor * 100 + patch. */
+#define TIVEX_VERSION_INT 22800
+#define TIVEX_VERSION_STR "2.28"
+
+#if defined(_WIN32)
+#if defined(TIVEX_BUILDING)
+#define TIVEX_API __declspec(dllexport)
+#else
+#define TIVEX_API __declspec(dllimport)
+#endif
+#elif defined(__GNUC__)
+#define TIVEX_API __attribute__((visibility("default")))
+#else
+#define TIVEX_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The version of the loaded library, to be compared with TIVEX_VERSION_INT and
+   TIVEX_VERSION_STR of the header that the host was compiled with. Both live
+   as long as the library is loaded. */
+extern TIVEX_API const int tivex_version_int;
+extern TIVEX_API const char *tivex_version_str;
+
+/* --- Process-wide settings ------------------------------------------------ */
+
+/* The option of tivex_init that selects the rulebook. */
+#define TIVEX_OPTION_RULEBOOK 3
+
+/*
+ * Changes a process-wide setting.
+ *
+ * option: TIVEX_OPTION_RULEBOOK, the only one.
+ * value:  the rulebook's name, compared byte for byte: "DE-2.6", "DE-2.7",
+ *         "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7" (Germany),
+ *         "AT-6" (Austria) or "NL-6" (Netherlands).
+ *
+ * The rulebook decides which characters and address keys tivex_add admits and
+ * in which schema version tivex_toXML writes. It is read when a check or a
+ * document runs, so it also affects messages that exist already. Without a call
+ * the first tivex_new selects "DE-3.7" from 17 April 2024 (local date) on, and
+ * "DE-3.5" before.
+ *
+ * Returns 1, or 0 for another option, a null value or an unknown name; then
+ * nothing changes.
+ */
+TIVEX_API int tivex_init(int option, const char *value);
+
+/*
+ * Releases what validation compiled on first use. Call it when the library is
+ * no longer needed; it may be used again afterwards all the same. Messages and
+ * the selected rulebook are not touched.
+ */
+TIVEX_API void tivex_cleanup(void);
+
+/* --- Messages ------------------------------------------------------------- */
+
+/* A message: one account of the host's own, header values that its
+   transactions share, and the transactions. */
+typedef struct tivex_message tivex_t;
+
+/* The kinds of message, for tivex_new. */
+#define TIVEX_DIRECT_DEBIT 1
+#define TIVEX_CREDIT_TRANSFER 2
+
+/* The local instruments of a direct debit, for tivex_setDDType. */
+#define TIVEX_DD_CORE 0
+#define TIVEX_DD_COR1 1
+#define TIVEX_DD_B2B 2
+
+/* One property of a transaction, for tivex_add. */
+typedef struct tivex_keyvalue {
+  const char *key;   /* the property's name; null ends the list */
+  const char *value; /* its value */
+} tivex_keyvalue_t;
+
+/*
+ * Creates an empty message with batch booking on and the CORE local instrument.
+ * Selects the default rulebook when none is selected yet, even when it then
+ * refuses the type.
+ *
+ * type: TIVEX_CREDIT_TRANSFER or TIVEX_DIRECT_DEBIT.
+ *
+ * Returns the message, which the host releases with tivex_free, or null for
+ * another type or when memory is exhausted.
+ */
+TIVEX_API tivex_t *tivex_new(int type);
+
+/*
+ * Releases a message with its transactions, all overwritten with zeros before.
+ * Null is ignored. The message and every error text read from it must not be
+ * used afterwards.
+ */
+TIVEX_API void tivex_free(tivex_t *msg);
+
+/*
+ * Returns the reason of the most recent failure on the message, or null when
+ * nothing has failed yet; for a null message "Invalid tivex_t handle (NULL)".
+ *
+ * A later success does not clear the reason: decide by the functions' results.
+ * The text belongs to the message, is at most 255 bytes long and is valid until
+ * the next failure on the message or its release. It may repeat account data
+ * and single bytes of a text in UTF-8.
+ */
+TIVEX_API const char *tivex_getError(const tivex_t *msg);
+
+/*
+ * The setters below store one header value each. They may be called in any
+ * order, any number of times, before or after tivex_add; the last value set
+ * before tivex_toXML counts.
+ *
+ * Each returns 1, or 0 with the reason in the message's error text; then the
+ * value held before stays, except that it is lost when the copy of the new one
+ * could not be allocated ("strdup() failed" in the reason). For a null message
+ * each returns 0 and does nothing.
+ */
+
+/*
+ * Sets the IBAN of the message's own account: the debtor's of a credit
+ * transfer, the creditor's of a direct debit. It is checked as tivex_iban_check
+ * does and stored as given.
+ *
+ * Errors: "%s (%s)" with one of the reasons below and the IBAN ("(null)" for a
+ * null one), cut at 255 bytes; "strdup() failed".
+ *   "Invalid IBAN (NULL)", "Invalid or unknown IBAN country code",
+ *   "Wrong IBAN length", "Invalid IBAN format", "Invalid IBAN checksum",
+ *   "Invalid character in IBAN",
+ *   "Error while initializing regular expressions" (memory exhausted).
+ */
+TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
+
+/*
+ * Sets the BIC (ISO 9362) of the message's own bank: 8 or 11 letters and
+ * digits, stored in upper case.
+ *
+ * Errors: "tivex_setBIC: invalid BIC" (null or longer than 11 bytes),
+ * "tivex_setBIC: invalid BIC format", "tivex_setBIC: strdup() failed".
+ */
+TIVEX_API int tivex_setBIC(tivex_t *msg, const char *bic);
+
+/*
+ * Sets the name of the account's holder: 1 to 70 bytes of the rulebook's
+ * widest character set (letters, digits, blank, ' : ? , - ( ) + / . and,
+ * except under "DE-2.6", & * $ % and the German letters with umlaut and sharp s).
+ *
+ * Errors: "tivex_setAccount: Name too short", "tivex_setAccount: Name too long",
+ * "tivex_setName: invalid character '%c' in name" with the first byte of the
+ * first character refused, "tivex_setName: strdup() failed".
+ */
+TIVEX_API int tivex_setName(tivex_t *msg, const char *name);
+
+/*
+ * Sets the creditor identifier of a direct debit, 7 to 35 bytes, checked by
+ * ISO 7064 MOD 97-10 as the European Payments Council prescribes for it (the
+ * creditor business code, characters 5 to 7, takes no part) and stored as given.
+ *
+ * Errors: "Creditor Identifier too short", "Creditor Identifier too long",
+ * "Invalid character in Creditor Identifier",
+ * "Invalid Creditor Identifier checksum", "strdup() failed".
+ */
+TIVEX_API int tivex_setCreditorIdentifier(tivex_t *msg, const char *id);
+
+/*
+ * Sets the date, "yyyy-mm-dd", on which transactions that bring none of their
+ * own are executed or collected. Only the form is checked, not the calendar.
+ * Without it tivex_toXML takes today's local date.
+ *
+ * Errors: "Invalid date" (null or not 10 bytes), "Invalid date format",
+ * "strdup() failed".
+ */
+TIVEX_API int tivex_setDate(tivex_t *msg, const char *date);
+
+/*
+ * Sets the local instrument of a direct debit message.
+ *
+ * code: TIVEX_DD_CORE, TIVEX_DD_COR1 (only under "DE-2.7", "DE-2.8", "DE-2.9",
+ *       "AT-6" and "NL-6") or TIVEX_DD_B2B.
+ *
+ * Errors: "Not a direct debit message",
+ * "Unknown/unsupported LocalInstrumentCode (setDDType)",
+ * "COR1 is not allowed with selected SEPA rulebook".
+ */
+TIVEX_API int tivex_setDDType(tivex_t *msg, int code);
+
+/*
+ * Asks the bank to book each payment block as one batch (mode 1, the default)
+ * or its transactions singly (mode 0).
+ *
+ * Errors: "Invalid BatchBooking mode (only 0 or 1 allowed)".
+ */
+TIVEX_API int tivex_setBatchBooking(tivex_t *msg, unsigned char mode);
+
+/*
+ * Sets the message identifier: 1 to 35 letters, digits, blanks and
+ * ' ( ) + , - . / : ? under every rulebook. Without it tivex_toXML makes one.
+ *
+ * Errors: "Invalid message id", "strdup() failed".
+ */
+TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
+
+/*
+ * Adds one transaction to a credit transfer message: a payment from the
+ * message's own account to one creditor. Direct debit messages take header
+ * values only so far; for them the result is 0 and nothing happens.
+ *
+ * list: an array of properties that ends at the first null key. Keys compare
+ *       whole and without case. A key may occur again; each value is checked
+ *       and the last one counts. Unknown keys are ignored.
+ *
+ *   key          value                                            length in bytes
+ *   "iban"       creditor's IBAN, required                        15 to 31
+ *   "amount"     euro, decimal point, rounded half up to cents,   -
+ *                required
+ *   "bic"        creditor's bank; required under "DE-2.6"         8 or 11
+ *   "name"       creditor's name                                  1 to 70
+ *   "ref"        unstructured remittance information              0 to 140
+ *   "purp"       purpose code (ISO 20022 external code set)       4
+ *   "date"       requested execution date, "yyyy-mm-dd"           10
+ *   "id"         end-to-end identification                        1 to 35
+ *   "addrCC"     country, two capital letters                     2
+ *   "addrLine1", "addrLine2"  address lines, not under "DE-3.7"   1 to 70
+ *   under "DE-3.7" only, ignored otherwise:
+ *   "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom"  1 to 70
+ *   "addrBldg", "addrTown", "addrLoc", "addrDstrct", "addrCtrySub"    1 to 35
+ *   "addrNum", "addrPoBox", "addrCode"                                1 to 16
+ *
+ * Names, address lines and remittance information take the character set that
+ * tivex_setName names, "id" the same without & * $ % and German letters; under
+ * "AT-6" all of them also take the euro sign and ! " # ; < = > @ [ ] ^ _ { | } ~.
+ * "purp" and "date" are checked for their length only and written as they stand.
+ *
+ * Returns 1, or 0 with the reason in the message's error text; then the
+ * message's transactions are as before. For a null message returns 0.
+ *
+ * Errors ("%c" the first byte of the first character refused, "%s" the key as
+ * given): "No key-value list submitted", "Out of memory", "IBAN missing",
+ * "BIC missing", "Amount missing" (also for amounts that round to 0), the
+ * reasons listed at tivex_setIBAN, "Invalid BIC", "Invalid BIC format",
+ * "Invalid name (must be 1-70 characters)",
+ * "Invalid character '%c' in creditor name", "Invalid country code",
+ * "selected SEPA rulebook requires structured address data",
+ * "Invalid address line 1 (must be 1-70 chars)",
+ * "Invalid character '%c' in address line 1", both also for line 2,
+ * "Invalid format for '%s'" (structured address),
+ * "Invalid unstructured remittance information (must be 0-140 characters)",
+ * "Invalid character '%c' in unstructured remittance information",
+ * "Invalid purpose (must be 4 characters)", "Invalid amount",
+ * "Empty amount not allowed", "Negative or zero amount not allowed",
+ * "Invalid execution date (format: yyyy-mm-dd)",
+ * "Invalid end-to-end ID (must be 1-35 characters)",
+ * "Invalid character '%c' in end-to-end ID".
+ */
+TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
+
+/*
+ * Writes the message as an ISO 20022 document in UTF-8: a pain.001 document in
+ * the version that the selected rulebook prescribes (pain.001.002.03 under
+ * "DE-2.6"; pain.001.003.03 under "DE-2.7" to "DE-2.9"; pain.001.001.03 under
+ * "DE-3.0" to "DE-3.5", "AT-6" and "NL-6"; pain.001.001.09 under "DE-3.7").
+ * Transactions stand in payment blocks, one for each execution date in
+ * ascending order, and within a block in the order of adding. Header values
+ * that are not set are left out, so that the host decides what its bank needs.
+ *
+ * A date or message identifier that is not set is filled in and kept: today's
+ * local date, and "SEPA-", local time and seven digits from the process
+ * identifier and a process-wide counter. A message may be written repeatedly.
+ *
+ * Returns a new NUL-terminated text that the host owns and releases with the C
+ * run-time's free() (it holds account data: overwrite it first where that
+ * matters), or null with the reason in the message's error text. For a null
+ * message, and for direct debit messages so far, returns null.
+ *
+ * Errors: "malloc() failed", "cti_toXML: strdup() failed", "Out of memory",
+ * "unknown/unsupported SEPA rulebook selected". When memory is exhausted the
+ * error text may stay as it was.
+ */
+TIVEX_API char *tivex_toXML(tivex_t *msg);
+
+/* --- Validation ----------------------------------------------------------- */
+
+/*
+ * Checks an IBAN (ISO 13616) of the 37 countries whose rules the library
+ * holds: country, length (15 to 31 bytes), national format and check digits.
+ * Capital letters only, no blanks.
+ *
+ * Returns 1 for a valid IBAN, -1 for an invalid or null one. tivex_setIBAN gives
+ * the reason.
+ */
+TIVEX_API int tivex_iban_check(const char *iban);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* TIVEX_H */

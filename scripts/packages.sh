@@ -1,0 +1,20 @@
+# Sourced by the other scripts: installs the Debian packages that are missing.
+
+install_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null |
+      grep -qx installed || missing+=("$package")
+  done
+  [ "${#missing[@]}" -gt 0 ] || return 0
+  echo "installing ${missing[*]}"
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  "${as_root[@]}" apt-get update --quiet=2
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install --quiet=2 --yes --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+build_packages=(g++ cmake make libcli11-dev libcsv-dev)
+test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 libbenchmark-dev
+  libclang-rt-14-dev libgtest-dev libxml2-utils pkgconf shellcheck)

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+
+namespace tivex {
+
+#if defined(__GNUC__)
+#define TIVEX_FORMATS(text, values) __attribute__((format(printf, text, values)))
+#else
+#define TIVEX_FORMATS(text, values)
+#endif
+
+// Formats as vsnprintf does into a buffer of `size` bytes; the result is cut to
+// size - 1 bytes and always terminated.
+TIVEX_FORMATS(3, 4)
+void bounded_format(char* out, std::size_t size, const char* format, ...);
+
+}  // namespace tivex

@@ -1,0 +1,51 @@
+// The message object that stands behind tivex_t.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "core/bounded_format.h"
+#include "core/owned_text.h"
+#include "platform/platform.h"
+#include "tivex.h"
+
+namespace tivex {
+
+struct transaction;
+
+struct message {
+  std::int32_t type = 0;
+  const char* error = nullptr;  // a constant text or error_text; never cleared
+  owned_text iban;
+  owned_text bic;
+  owned_text name;
+  owned_text creditor_id;
+  owned_text date;
+  owned_text message_id;
+  char error_text[256] = {};
+  std::uint32_t tx_count = 0;
+  double control_sum = 0.0;
+  std::int32_t local_instrument = TIVEX_DD_CORE;
+  std::uint8_t batch_booking = 1;
+  transaction* first = nullptr;  // records of the kind that `type` names, linked by `next`
+  transaction* last = nullptr;
+
+  // Both note the reason of a failure and give back the result of one.
+  bool fail(const char* reason);
+  template <class... values>
+  bool fail_with(const char* format, values... shown);
+};
+
+template <class... values>
+bool message::fail_with(const char* format, values... shown) {
+  // A host may hand in the text that it just read from this very buffer.
+  char text[sizeof error_text];
+  bounded_format(text, sizeof text, format, shown...);
+  std::memcpy(error_text, text, sizeof text);
+  platform::wipe(text, sizeof text);
+  return fail(error_text);
+}
+
+}  // namespace tivex
+
+struct tivex_message final : tivex::message {};

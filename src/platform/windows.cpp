@@ -1,0 +1,31 @@
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include "platform/broken_down.h"
+#include "platform/platform.h"
+
+namespace tivex::platform {
+
+std::time_t now() {
+  return std::time(nullptr);
+}
+
+calendar_time local_calendar(std::time_t moment) {
+  std::tm parts{};
+  return localtime_s(&parts, &moment) == 0 ? from_broken_down(parts) : calendar_time{};
+}
+
+calendar_time utc_calendar(std::time_t moment) {
+  std::tm parts{};
+  return gmtime_s(&parts, &moment) == 0 ? from_broken_down(parts) : calendar_time{};
+}
+
+std::uint32_t process_id() {
+  return GetCurrentProcessId();
+}
+
+void wipe(void* memory, std::size_t size) {
+  SecureZeroMemory(memory, size);
+}
+
+}  // namespace tivex::platform

@@ -1,0 +1,78 @@
+// The road of a key-value list into a message, the same for both kinds of
+// transaction.
+#pragma once
+
+#include <span>
+#include <utility>
+
+#include "core/ascii.h"
+#include "core/rulebook.h"
+#include "transactions/address_fields.h"
+#include "transactions/key_rules.h"
+#include "transactions/transaction.h"
+
+namespace tivex {
+
+// What one kind of transaction makes of a list.
+template <class record>
+struct list_rules {
+  std::span<const key_rule<record>> shared_keys;
+  std::span<const key_rule<record>> own_keys;
+  // Decides on a key that is in neither table.
+  bool (*accept_unknown)(message& msg, const char* key);
+  // Decides whether a record has what it needs.
+  bool (*complete)(message& msg, const record& added);
+};
+
+template <class record>
+const key_rule<record>* find_key(std::span<const key_rule<record>> keys, const char* key) {
+  for (const key_rule<record>& row : keys) {
+    if (equal_ignoring_case(key, row.key)) return &row;
+  }
+  return nullptr;
+}
+
+template <class record>
+bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
+                  const list_rules<record>& rules) {
+  if (current_rules().structured_address) {
+    const field_outcome outcome = field_table_set(msg, target, entry, structured_address_fields);
+    if (outcome != field_outcome::unknown_key) return outcome == field_outcome::stored;
+  }
+  for (const auto keys : {rules.shared_keys, rules.own_keys}) {
+    if (const key_rule<record>* const row = find_key(keys, entry.key)) {
+      return row->accept(msg, target, entry.value);
+    }
+  }
+  return rules.accept_unknown(msg, entry.key);
+}
+
+// Builds a record from a list and links it to the message. At the first fault
+// the message's transactions stay as they were, its error text tells the reason,
+// and the result is false.
+template <class record>
+bool add_transaction(message& msg, const tivex_keyvalue_t* list, const list_rules<record>& rules) {
+  if (list == nullptr) return msg.fail("No key-value list submitted");
+  wiped_ptr<record> added = make_wiped<record>();
+  if (!added) return msg.fail("Out of memory");
+  for (; list->key != nullptr; ++list) {
+    if (!accept_entry(msg, *added, *list, rules)) return false;
+  }
+  if (!rules.complete(msg, *added)) return false;
+  link_transaction(msg, std::move(added));
+  return true;
+}
+
+// What both kinds ask of a record: its IBAN, and its BIC where the rulebook
+// wants one.
+inline bool has_account(message& msg, const transaction& added) {
+  if (!added.iban) return msg.fail("IBAN missing");
+  if (!added.bic && current_rules().bic_required) return msg.fail("BIC missing");
+  return true;
+}
+
+inline bool has_amount(message& msg, double amount) {
+  return amount != 0.0 || msg.fail("Amount missing");
+}
+
+}  // namespace tivex

@@ -1,0 +1,71 @@
+// The keys through which a host describes a transaction: a row each.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "transactions/amount.h"
+#include "transactions/charset.h"
+#include "transactions/field_checks.h"
+
+namespace tivex {
+
+// Most keys store a checked text; the others have a function of their own.
+template <class record>
+struct key_rule {
+  const char* key;
+  owned_text record::*field = nullptr;
+  field_check* check = nullptr;
+  text_rule rule = {};
+  bool (*accept_value)(message& msg, record& target, const char* value) = nullptr;
+
+  bool accept(message& msg, record& target, const char* value) const {
+    return check != nullptr ? check(msg, rule, value, target.*field)
+                            : accept_value(msg, target, value);
+  }
+};
+
+template <class record>
+bool accept_amount(message& msg, record& target, const char* value) {
+  const char* const fault = amount_rule(value, target.amount);
+  return fault == nullptr || msg.fail(fault);
+}
+
+// The keys that credit transfers and direct debits share. `name_error` refuses a
+// character in the name of the other side.
+template <class record>
+constexpr std::array<key_rule<record>, 10> shared_key_rules(const char* name_error) {
+  return {{
+      {"name",
+       &record::name,
+       accept_text,
+       {1, 70, "Invalid name (must be 1-70 characters)", CHARSET_TEXT, name_error}},
+      {"iban", &record::iban, accept_iban},
+      {"bic", &record::bic, accept_bic},
+      {"addrCC", &record::addr_country, accept_country, {2, 2, "Invalid country code"}},
+      {"addrLine1",
+       &record::addr_line1,
+       accept_address_line,
+       {1, 70, "Invalid address line 1 (must be 1-70 chars)", CHARSET_TEXT,
+        "Invalid character '%c' in address line 1"}},
+      {"addrLine2",
+       &record::addr_line2,
+       accept_address_line,
+       {1, 70, "Invalid address line 2 (must be 1-70 chars)", CHARSET_TEXT,
+        "Invalid character '%c' in address line 2"}},
+      {"ref",
+       &record::remittance,
+       accept_text,
+       {0, 140, "Invalid unstructured remittance information (must be 0-140 characters)",
+        CHARSET_TEXT, "Invalid character '%c' in unstructured remittance information"}},
+      {"amount", nullptr, nullptr, {}, accept_amount<record>},
+      {"date", &record::date, accept_text, {10, 10, "Invalid execution date (format: yyyy-mm-dd)"}},
+      {"id",
+       &record::end_to_end_id,
+       accept_text,
+       {1, 35, "Invalid end-to-end ID (must be 1-35 characters)", CHARSET_PLAIN,
+        "Invalid character '%c' in end-to-end ID"}},
+  }};
+}
+
+}  // namespace tivex

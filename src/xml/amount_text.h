@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace tivex {
+
+// Large enough for every amount text (at most 21 characters) and count text.
+using number_text = char[128];
+
+// Writes a sum in euro with two decimals, rounded half up to cents. A sum beyond
+// 92233720368547758.07 is written as that.
+void format_amount(char* out, std::size_t size, double value);
+
+void format_count(char* out, std::size_t size, std::uint32_t count);
+
+}  // namespace tivex

@@ -1,0 +1,60 @@
+#include "xml/document_frame.h"
+
+#include "core/bounded_format.h"
+#include "xml/amount_text.h"
+#include "xml/document_stamp.h"
+#include "xml/parties.h"
+
+namespace tivex {
+
+document_attributes::document_attributes(const document_schema& schema, const char* version) {
+  constexpr const char* names =
+      " xmlns=\"urn:iso:std:iso:20022:tech:xsd:%s\""
+      " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
+  constexpr const char* names_and_location =
+      " xmlns=\"urn:iso:std:iso:20022:tech:xsd:%s\""
+      " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
+      " xsi:schemaLocation=\"urn:iso:std:iso:20022:tech:xsd:%s %s.xsd\"";
+  if (schema.has_location) {
+    bounded_format(text_, sizeof text_, names_and_location, version, version, version);
+  } else {
+    bounded_format(text_, sizeof text_, names, version);
+  }
+}
+
+void write_group_header(document_writer& out, const message& msg, std::time_t moment) {
+  creation_text created;
+  format_creation_time(created, moment);
+
+  const element header(out, "GrpHdr");
+  out.value("MsgId", msg.message_id.c_str());
+  out.value("CreDtTm", created);
+  write_totals(out, msg.tx_count, msg.control_sum);
+  write_party(out, "InitgPty", msg.name);
+}
+
+void write_payment_id(document_writer& out, const message& msg, int number) {
+  char id[64];
+  bounded_format(id, sizeof id, "%s-P%i", msg.message_id.c_str(), number);
+  out.value("PmtInfId", id);
+}
+
+void write_batch_booking(document_writer& out, const message& msg) {
+  out.fixed("BtchBookg", msg.batch_booking == 1 ? "true" : "false");
+}
+
+void write_totals(document_writer& out, std::uint32_t count, double sum) {
+  number_text text;
+  format_count(text, sizeof text, count);
+  out.value("NbOfTxs", text);
+  format_amount(text, sizeof text, sum);
+  out.value("CtrlSum", text);
+}
+
+void write_amount(document_writer& out, double amount) {
+  number_text text;
+  format_amount(text, sizeof text, amount);
+  out.value("InstdAmt", text, " Ccy=\"EUR\"");
+}
+
+}  // namespace tivex

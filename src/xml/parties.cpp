@@ -1,0 +1,78 @@
+#include "xml/parties.h"
+
+#include <array>
+#include <span>
+
+#include "core/rulebook.h"
+
+namespace tivex {
+
+namespace {
+
+struct address_element {
+  const char* name;
+  owned_text transaction::*value;
+};
+
+constexpr std::array<address_element, 14> structured_elements = {{
+    {"Dept", &transaction::addr_department},
+    {"SubDept", &transaction::addr_sub_department},
+    {"StrtNm", &transaction::addr_street},
+    {"BldgNb", &transaction::addr_building_number},
+    {"BldgNm", &transaction::addr_building_name},
+    {"Flr", &transaction::addr_floor},
+    {"PstBx", &transaction::addr_post_box},
+    {"Room", &transaction::addr_room},
+    {"PstCd", &transaction::addr_post_code},
+    {"TwnNm", &transaction::addr_town},
+    {"TwnLctnNm", &transaction::addr_town_location},
+    {"DstrctNm", &transaction::addr_district},
+    {"CtrySubDvsn", &transaction::addr_country_subdivision},
+    {"Ctry", &transaction::addr_country},
+}};
+
+constexpr std::array<address_element, 3> line_elements = {{
+    {"Ctry", &transaction::addr_country},
+    {"AdrLine", &transaction::addr_line1},
+    {"AdrLine", &transaction::addr_line2},
+}};
+
+std::span<const address_element> address_elements() {
+  if (current_rules().structured_address) return structured_elements;
+  return line_elements;
+}
+
+}  // namespace
+
+void write_end_to_end_id(document_writer& out, const transaction& tx) {
+  const element id(out, "PmtId");
+  out.value("EndToEndId", tx.end_to_end_id ? tx.end_to_end_id.c_str() : "NOTPROVIDED");
+}
+
+void write_account(document_writer& out, const char* element_name, const owned_text& iban) {
+  const element account(out, element_name);
+  const element id(out, "Id");
+  out.optional_value("IBAN", iban);
+}
+
+void write_agent(document_writer& out, const char* element_name, const document_schema& schema,
+                 const owned_text& bic) {
+  const element agent(out, element_name);
+  const element institution(out, "FinInstnId");
+  out.optional_value(schema.bic_element, bic);
+}
+
+void write_party(document_writer& out, const char* element_name, const owned_text& name) {
+  const element party(out, element_name);
+  out.optional_escaped("Nm", name);
+}
+
+void write_address(document_writer& out, const transaction& tx) {
+  if (!tx.addr_country && !tx.addr_town && !tx.addr_line1 && !tx.addr_line2) return;
+  const element address(out, "PstlAdr");
+  for (const address_element& part : address_elements()) {
+    out.optional_escaped(part.name, tx.*part.value);
+  }
+}
+
+}  // namespace tivex

@@ -1,0 +1,33 @@
+#include "core/message.h"
+#include "tivex.h"
+#include "xml/credit_transfer_document.h"
+#include "xml/document_stamp.h"
+#include "xml/xml_buffer.h"
+
+namespace tivex {
+
+namespace {
+
+bool write_document(message& msg, xml_buffer_t& out) {
+  if (msg.type == TIVEX_CREDIT_TRANSFER) return cti_toXML(msg, out);
+  return false;
+}
+
+}  // namespace
+
+}  // namespace tivex
+
+char* tivex_toXML(tivex_t* msg) {
+  if (msg == nullptr) return nullptr;
+  const tivex::xml_buffer_ptr out(tivex::xml_buffer_new());
+  if (!out) return nullptr;
+  if (!tivex::ensure_date(*msg)) {
+    msg->fail("malloc() failed");
+    return nullptr;
+  }
+  if (!tivex::xml_buffer_append(*out, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n") ||
+      !tivex::write_document(*msg, *out)) {
+    return nullptr;
+  }
+  return tivex::xml_buffer_take(*out);
+}

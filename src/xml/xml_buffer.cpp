@@ -1,0 +1,134 @@
+#include "xml/xml_buffer.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <string_view>
+
+#include "platform/platform.h"
+
+namespace tivex {
+
+namespace {
+
+constexpr std::uint64_t step = 256;
+constexpr std::uint64_t largest_capacity = std::numeric_limits<std::uint32_t>::max() / step * step;
+
+void release_data(xml_buffer_t& buf) {
+  if (buf.data == nullptr) return;
+  platform::wipe(buf.data, buf.length);
+  std::free(buf.data);
+}
+
+// Moves the text into a block of a size, a multiple of `step`.
+bool move_to_block(xml_buffer_t& buf, std::uint64_t size) {
+  auto* const data = static_cast<char*>(std::malloc(static_cast<std::size_t>(size)));
+  if (data == nullptr) return false;
+  if (buf.length > 0) std::memcpy(data, buf.data, buf.length);
+  release_data(buf);
+  buf.data = data;
+  buf.allocated = static_cast<std::uint32_t>(size);
+  return true;
+}
+
+std::string_view entity_of(char c) {
+  switch (c) {
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '&':
+      return "&amp;";
+    default:
+      return {};
+  }
+}
+
+// Where the next text goes: over the terminating NUL, if there is one.
+char* end_of_text(const xml_buffer_t& buf) {
+  return buf.data + (buf.length > 0 ? buf.length - 1 : 0);
+}
+
+}  // namespace
+
+xml_buffer_t* xml_buffer_new() {
+  void* const memory = std::malloc(sizeof(xml_buffer_t));
+  return memory != nullptr ? new (memory) xml_buffer_t() : nullptr;
+}
+
+void xml_buffer_free(xml_buffer_t* buf) {
+  if (buf == nullptr) return;
+  release_data(*buf);
+  std::free(buf);
+}
+
+bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need) {
+  if (buf.capacity - buf.length >= need) return true;
+  if (need > largest_capacity) return false;
+  const std::uint64_t total = std::uint64_t{buf.length} + need;
+  const std::uint64_t capacity = total - total % step + step;
+  if (capacity > largest_capacity) return false;
+  if (capacity > buf.allocated) {
+    const std::uint64_t doubled = std::min(std::uint64_t{buf.allocated} * 2, largest_capacity);
+    if (!move_to_block(buf, std::max(capacity, doubled)) && !move_to_block(buf, capacity)) {
+      return false;
+    }
+  }
+  buf.capacity = static_cast<std::uint32_t>(capacity);
+  return true;
+}
+
+void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes) {
+  const std::uint64_t size = std::min((bytes / step + 1) * step, largest_capacity);
+  if (size > buf.allocated) move_to_block(buf, size);
+}
+
+bool xml_buffer_append(xml_buffer_t& buf, const char* text) {
+  if (text == nullptr) return true;
+  const std::size_t size = std::strlen(text) + 1;
+  if (!xml_buffer_reserve(buf, size)) return false;
+  std::memcpy(end_of_text(buf), text, size);
+  buf.length += static_cast<std::uint32_t>(buf.length > 0 ? size - 1 : size);
+  return true;
+}
+
+bool xml_buffer_append_escaped(xml_buffer_t& buf, const char* text) {
+  if (text == nullptr) return true;
+  std::size_t size = 1;
+  for (const char* next = text; *next != '\0'; ++next) {
+    size += std::max<std::size_t>(entity_of(*next).size(), 1);
+  }
+  if (!xml_buffer_reserve(buf, size)) return false;
+  char* out = end_of_text(buf);
+  for (; *text != '\0'; ++text) {
+    const std::string_view entity = entity_of(*text);
+    if (entity.empty()) {
+      *out++ = *text;
+    } else {
+      out = std::copy(entity.begin(), entity.end(), out);
+    }
+  }
+  *out = '\0';
+  buf.length = static_cast<std::uint32_t>(out + 1 - buf.data);
+  return true;
+}
+
+bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<const char*> texts) {
+  for (const char* const text : texts) {
+    if (text == nullptr) break;
+    if (!xml_buffer_append(buf, text)) return false;
+  }
+  return true;
+}
+
+char* xml_buffer_take(xml_buffer_t& buf) {
+  // A block that shrinks stays where it is, or at worst as large as it was.
+  void* const fitted = std::realloc(buf.data, buf.capacity);
+  char* const text = fitted != nullptr ? static_cast<char*>(fitted) : buf.data;
+  buf = xml_buffer_t();
+  return text;
+}
+
+}  // namespace tivex

@@ -1,0 +1,145 @@
+#include "support/runtime_control.h"
+
+#include <malloc.h>
+#include <regex.h>
+#include <sys/types.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <optional>
+#include <string_view>
+
+namespace runtime_control {
+
+namespace {
+
+std::atomic<std::size_t> allocations_left = 0;  // until one fails; 0: none will
+std::atomic<bool> all_later_fail = false;
+std::atomic<bool> failure_happened = false;
+std::optional<std::time_t> clock_moment;
+std::optional<unsigned> process_id;
+std::string watched_text;
+std::atomic<std::size_t> watched_blocks = 0;
+std::atomic<std::size_t> watched_blocks_with_text = 0;
+
+bool allocation_fails() {
+  if (all_later_fail && failure_happened) return true;
+  if (allocations_left == 0 || --allocations_left > 0) return false;
+  failure_happened = true;
+  return true;
+}
+
+void look_at(void* block) {
+  if (block == nullptr || watched_text.empty()) return;
+  ++watched_blocks;
+  const std::string_view bytes(static_cast<const char*>(block), malloc_usable_size(block));
+  if (bytes.find(watched_text) != std::string_view::npos) ++watched_blocks_with_text;
+}
+
+}  // namespace
+
+failing_allocation::failing_allocation(std::size_t n, bool all_later) {
+  failure_happened = false;
+  all_later_fail = all_later;
+  allocations_left = n;
+}
+failing_allocation::~failing_allocation() {
+  allocations_left = 0;
+  all_later_fail = false;
+}
+bool failing_allocation::happened() const {
+  return failure_happened;
+}
+
+fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int second) {
+  std::tm parts = {};
+  parts.tm_year = year - 1900;
+  parts.tm_mon = month - 1;
+  parts.tm_mday = day;
+  parts.tm_hour = hour;
+  parts.tm_min = minute;
+  parts.tm_sec = second;
+  clock_moment = timegm(&parts);
+}
+fixed_clock::~fixed_clock() {
+  clock_moment.reset();
+}
+
+fixed_zone::fixed_zone(const char* zone) {
+  setenv("TZ", zone, 1);
+  tzset();
+}
+fixed_zone::~fixed_zone() {
+  unsetenv("TZ");
+  tzset();
+}
+
+fixed_process_id::fixed_process_id(unsigned id) {
+  process_id = id;
+}
+fixed_process_id::~fixed_process_id() {
+  process_id.reset();
+}
+
+released_text_watch::released_text_watch(std::string text) {
+  watched_blocks = 0;
+  watched_blocks_with_text = 0;
+  watched_text = std::move(text);
+}
+released_text_watch::~released_text_watch() {
+  watched_text.clear();
+}
+std::size_t released_text_watch::blocks_released() const {
+  return watched_blocks;
+}
+std::size_t released_text_watch::blocks_with_text() const {
+  return watched_blocks_with_text;
+}
+
+}  // namespace runtime_control
+
+// The linker sends the library's calls here.
+using namespace runtime_control;
+
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
+void* __real_realloc(void* block, std::size_t size);
+void __real_free(void* block);
+int __real_regcomp(regex_t* compiled, const char* pattern, int flags);
+std::time_t __real_time(std::time_t* moment);
+pid_t __real_getpid(void);
+
+void* __wrap_malloc(std::size_t size) {
+  return allocation_fails() ? nullptr : __real_malloc(size);
+}
+
+void* __wrap_calloc(std::size_t count, std::size_t size) {
+  return allocation_fails() ? nullptr : __real_calloc(count, size);
+}
+
+void* __wrap_realloc(void* block, std::size_t size) {
+  return allocation_fails() ? nullptr : __real_realloc(block, size);
+}
+
+void __wrap_free(void* block) {
+  look_at(block);
+  __real_free(block);
+}
+
+int __wrap_regcomp(regex_t* compiled, const char* pattern, int flags) {
+  return allocation_fails() ? REG_ESPACE : __real_regcomp(compiled, pattern, flags);
+}
+
+std::time_t __wrap_time(std::time_t* moment) {
+  const std::time_t now = clock_moment ? *clock_moment : __real_time(nullptr);
+  if (moment != nullptr) *moment = now;
+  return now;
+}
+
+pid_t __wrap_getpid(void) {
+  return process_id ? static_cast<pid_t>(*process_id) : __real_getpid();
+}
+}

@@ -1,0 +1,44 @@
+// What several threads may do at once; run under the thread sanitizer.
+
+#include <set>
+#include <thread>
+
+#include "support/messages.h"
+
+namespace {
+
+template <class work>
+void run_together(std::size_t count, const work& each) {
+  std::vector<std::thread> threads;
+  for (std::size_t index = 0; index < count; ++index) threads.emplace_back(each, index);
+  for (std::thread& thread : threads) thread.join();
+}
+
+}  // namespace
+
+TEST(Threads, MayMeetInTheFirstValidation) {
+  for (int round = 0; round < 20; ++round) {
+    tivex_cleanup();
+    run_together(4, [](std::size_t) {
+      for (int repeat = 0; repeat < 5; ++repeat) {
+        EXPECT_EQ(tivex_iban_check("GB29NWBK60161331926819"), 1);
+        EXPECT_EQ(tivex_iban_check("GB29NWBK60161331926818"), -1);
+      }
+    });
+  }
+}
+
+TEST(Threads, WriteMessagesOfTheirOwnWithIdentifiersOfTheirOwn) {
+  ASSERT_EQ(tivex_init(3, "DE-3.7"), 1);
+  std::vector<std::vector<std::string>> identifiers(4);
+  run_together(identifiers.size(), [&identifiers](std::size_t index) {
+    for (int repeat = 0; repeat < 50; ++repeat) {
+      const message_ptr msg(tivex_new(TIVEX_CREDIT_TRANSFER));
+      EXPECT_EQ(add(msg, payment), 1);
+      identifiers[index].push_back(lines_with(document_of(msg), "MsgId"));
+    }
+  });
+  std::set<std::string> different;
+  for (const auto& of_thread : identifiers) different.insert(of_thread.begin(), of_thread.end());
+  EXPECT_EQ(different.size(), 200u);
+}

@@ -1,0 +1,39 @@
+// No released block still holds account data.
+
+#include "support/messages.h"
+#include "support/runtime_control.h"
+
+TEST(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
+  const char* const secret = "NO9386011117947";
+  const runtime_control::released_text_watch watch("386011117");
+  {
+    const message_ptr msg = credit_transfer();
+    for (int round = 0; round < 2; ++round) {
+      ASSERT_EQ(tivex_setIBAN(msg.get(), secret), 1);
+      ASSERT_EQ(tivex_setName(msg.get(), secret), 1);
+      ASSERT_EQ(tivex_setMessageId(msg.get(), secret), 1);
+    }
+    for (int count = 0; count < 20; ++count) {
+      ASSERT_EQ(add(msg, {{"iban", secret},
+                          {"amount", "1"},
+                          {"ref", secret},
+                          {"ref", secret},
+                          {"addrTown", secret},
+                          {"addrTown", secret}}),
+                1);
+    }
+    // A half-built record, an error text in the message, a document that grows
+    // through several blocks and one that is given up.
+    EXPECT_EQ(add(msg, {{"ref", secret}, {"iban", "NO"}}), 0);
+    EXPECT_EQ(tivex_setIBAN(msg.get(), (std::string(secret) + "0").c_str()), 0);
+    const char* const document = tivex_toXML(msg.get());
+    ASSERT_NE(document, nullptr);
+    EXPECT_NE(std::string_view(document).find("386011117"), std::string_view::npos);
+    const runtime_control::failing_allocation failing(6, true);
+    EXPECT_EQ(tivex_toXML(msg.get()), nullptr);
+    explicit_bzero(const_cast<char*>(document), std::strlen(document));
+    std::free(const_cast<char*>(document));
+  }
+  EXPECT_GT(watch.blocks_released(), 100u);
+  EXPECT_EQ(watch.blocks_with_text(), 0u);
+}
