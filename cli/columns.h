@@ -1,0 +1,26 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "csv_reader.h"
+#include "fault_report.h"
+#include "value_rules.h"
+
+namespace tivex_program {
+
+// A column that a CSV file may have: one key of tivex_add.
+struct column {
+  const char* key;
+  value_rule rule = text_fault;
+  // Set where the library ignores the key under every other rulebook.
+  const char* only_rulebook = nullptr;
+};
+
+// Returns the columns that the header names, in its order; each name that is
+// wrong is reported.
+std::vector<const column*> resolve_header(const csv_row& header, std::span<const column> known,
+                                          const std::string& rulebook, fault_report& faults);
+
+}  // namespace tivex_program

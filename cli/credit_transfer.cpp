@@ -1,0 +1,84 @@
+#include "credit_transfer.h"
+
+#include <tivex.h>
+
+#include "rulebooks.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr header_option options[] = {
+    {"--name", "NAME", "Name of the account's holder", true, tivex_setName},
+    {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
+    {"--bic", "BIC", "The account's bank", false, tivex_setBIC},
+    {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
+     tivex_setDate, date_fault},
+    {"--message-id", "ID", "Identifier of the message (default: made up)", false,
+     tivex_setMessageId},
+};
+
+constexpr column columns[] = {
+    {"iban"},
+    {"name"},
+    {"amount"},
+    {"ref"},
+    {"bic"},
+    {"purp", purpose_fault},
+    {"date", date_fault},
+    {"id", unescaped_fault},
+    {"addrCC"},
+    {"addrLine1"},
+    {"addrLine2"},
+    {"addrDept", text_fault, structured_rulebook},
+    {"addrSubDept", text_fault, structured_rulebook},
+    {"addrStreet", text_fault, structured_rulebook},
+    {"addrNum", text_fault, structured_rulebook},
+    {"addrBldg", text_fault, structured_rulebook},
+    {"addrFloor", text_fault, structured_rulebook},
+    {"addrPoBox", text_fault, structured_rulebook},
+    {"addrRoom", text_fault, structured_rulebook},
+    {"addrCode", text_fault, structured_rulebook},
+    {"addrTown", text_fault, structured_rulebook},
+    {"addrLoc", text_fault, structured_rulebook},
+    {"addrDstrct", text_fault, structured_rulebook},
+    {"addrCtrySub", text_fault, structured_rulebook},
+};
+
+constexpr tivex_keyvalue_t sound_values[] = {
+    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}};
+
+constexpr missing_value missing_values[] = {
+    {"IBAN missing", "iban"}, {"BIC missing", "bic"}, {"Amount missing", "amount"}};
+
+constexpr const char* example = R"(Example:
+  tivex credit-transfer --name "Beispiel GmbH" --iban DE89370400440532013000 \
+      --date 2026-11-27 -o payroll.xml payroll.csv
+
+with the payroll.csv
+
+  iban,name,amount,ref,purp
+  AT611904300234573201,Erika Muster,1850.40,"Gehalt November, Nr. 7",SALA
+  DE89370400440532013000,Jörg Beispiel,1349.60,"Gehalt November, Nr. 8",SALA
+
+writes payroll.xml and prints
+
+  transactions    2
+  sum             3200.00 EUR
+  payment blocks  1
+  rulebook        DE-3.7 (pain.001.001.09)
+  file            payroll.xml)";
+
+}  // namespace
+
+constinit const payment_command credit_transfer = {
+    .name = "credit-transfer",
+    .description = "Write a credit transfer document (pain.001) from a CSV file",
+    .example = example,
+    .options = options,
+    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER,
+                     .columns = columns,
+                     .sound_values = sound_values,
+                     .missing_values = missing_values},
+};
+
+}  // namespace tivex_program

@@ -1,0 +1,126 @@
+#include "csv_reader.h"
+
+#include <algorithm>
+#include <new>
+#include <string_view>
+#include <utility>
+
+namespace tivex_program {
+namespace {
+
+constexpr std::size_t buffer_size = std::size_t{1} << 16;
+// Far above any payment: a quote that is not closed must not swallow the file.
+constexpr std::size_t longest_row = std::size_t{1} << 16;
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
+}  // namespace
+
+csv_reader::csv_reader(input_file& input, char delimiter)
+    : input_(input), delimiter_(delimiter), buffer_(buffer_size) {
+  start_parser();
+  skip_byte_order_mark();
+}
+
+csv_reader::~csv_reader() { csv_free(&parser_); }
+
+void csv_reader::start_parser() {
+  csv_free(&parser_);
+  csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI);
+  csv_set_delim(&parser_, static_cast<unsigned char>(delimiter_));
+}
+
+bool csv_reader::refill() {
+  position_ = 0;
+  filled_ = input_.read(buffer_.data(), buffer_.size());
+  return filled_ > 0;
+}
+
+void csv_reader::skip_byte_order_mark() {
+  // A pipe may bring it in several parts.
+  while (filled_ < byte_order_mark.size()) {
+    const std::size_t count = input_.read(buffer_.data() + filled_, buffer_.size() - filled_);
+    if (count == 0) break;
+    filled_ += count;
+  }
+  const std::string_view start(buffer_.data(), filled_);
+  if (start.substr(0, byte_order_mark.size()) == byte_order_mark)
+    position_ = byte_order_mark.size();
+}
+
+void csv_reader::on_cell(void* text, std::size_t length, void* reader) noexcept {
+  const std::string_view cell(static_cast<const char*>(text), length);
+  static_cast<csv_reader*>(reader)->row_->cells.emplace_back(cell);
+}
+
+void csv_reader::on_row(int, void* reader) noexcept {
+  static_cast<csv_reader*>(reader)->row_complete_ = true;
+}
+
+bool csv_reader::next(csv_row& row) {
+  row.cells.clear();
+  row.fault.clear();
+  row_ = &row;
+  row_complete_ = false;
+  while (!row_complete_) {
+    if (position_ == filled_ && !refill()) return finish();
+    if (!read_piece()) break;
+  }
+  row.line = row_line_;
+  return true;
+}
+
+// The parser counts no lines and cannot stop after a row, so it is fed pieces
+// that end with a line end or the buffer: each completes one row at most.
+// Returns false when the row is malformed.
+bool csv_reader::read_piece() {
+  const char* const begin = buffer_.data() + position_;
+  const char* const end = buffer_.data() + filled_;
+  const char* stop = std::find_if(begin, end, [](char c) { return c == '\n' || c == '\r'; });
+  const bool ends_line = stop != end;
+  if (ends_line) ++stop;
+  const auto length = static_cast<std::size_t>(stop - begin);
+
+  if (!row_open_) {
+    row_line_ = line_;
+    row_length_ = 0;
+  }
+  position_ += length;
+  if (stop[-1] == '\n') ++line_;
+  if (skips_line_) {
+    skips_line_ = row_open_ = !ends_line;
+    return true;
+  }
+
+  row_length_ += length;
+  const std::size_t parsed = csv_parse(&parser_, begin, length, on_cell, on_row, this);
+  // At a line end a row stays open only within a quoted cell.
+  row_open_ = parser_.quoted != 0 || !ends_line;
+  const bool malformed = parsed != length;
+  if (!malformed && (row_complete_ || row_length_ <= longest_row)) return true;
+
+  if (malformed && csv_error(&parser_) != CSV_EPARSE) throw std::bad_alloc();
+  start_parser();
+  skips_line_ = row_open_ = !ends_line;
+  return refuse(malformed ? "malformed quoting"
+                          : "row longer than " + std::to_string(longest_row) +
+                                " bytes (a quote that is not closed?)");
+}
+
+// A last line needs no line end.
+bool csv_reader::finish() {
+  if (csv_fini(&parser_, on_cell, on_row, this) != 0) {
+    start_parser();
+    refuse("quoted cell that is not closed");
+    row_complete_ = true;
+  }
+  row_->line = row_line_;
+  return row_complete_;
+}
+
+bool csv_reader::refuse(std::string fault) {
+  row_->cells.clear();
+  row_->fault = std::move(fault);
+  return false;
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,40 @@
+#include "diagnostics.h"
+
+#include <cstdio>
+
+#include "utf8.h"
+
+namespace tivex_program {
+namespace {
+
+void append_hex(std::string& text, std::string_view bytes) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    text.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 0x0F]);
+  }
+}
+
+}  // namespace
+
+std::string printable(std::string_view text) {
+  std::string result;
+  while (!text.empty()) {
+    const std::size_t length = utf8_character_length(text);
+    const std::string_view character = text.substr(0, length == 0 ? 1 : length);
+    if (length == 0 || is_control_character(character)) {
+      append_hex(result, character);
+    } else {
+      result.append(character);
+    }
+    text.remove_prefix(character.size());
+  }
+  return result;
+}
+
+void print_error(std::string_view text) {
+  const std::string line = printable(text) + '\n';
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tivex_program {
+
+// Returns the text with control characters and bytes that are no UTF-8 written
+// as \xHH: error texts repeat what stood in a file, down to single bytes.
+std::string printable(std::string_view text);
+
+// Writes one printable line to standard error.
+void print_error(std::string_view text);
+
+}  // namespace tivex_program

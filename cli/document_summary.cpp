@@ -1,0 +1,45 @@
+#include "document_summary.h"
+
+#include <cstddef>
+
+namespace tivex_program {
+namespace {
+
+// The text between the first occurrence of a start and the end after it.
+std::string_view between(std::string_view text, std::string_view start, std::string_view end) {
+  const std::size_t found = text.find(start);
+  if (found == std::string_view::npos) return "?";
+  text.remove_prefix(found + start.size());
+  return text.substr(0, text.find(end));
+}
+
+std::size_t count(std::string_view text, std::string_view part) {
+  std::size_t found = 0;
+  for (std::size_t at = 0; (at = text.find(part, at)) != std::string_view::npos;
+       at += part.size()) {
+    ++found;
+  }
+  return found;
+}
+
+std::string line(std::string_view label, const std::string& value) {
+  constexpr std::size_t label_width = 16;
+  std::string text(label);
+  text.resize(label_width, ' ');
+  return text + value;
+}
+
+}  // namespace
+
+std::vector<std::string> document_summary(std::string_view document, const std::string& rulebook,
+                                          const std::string& file) {
+  const std::string_view header = between(document, "<GrpHdr>", "</GrpHdr>");
+  const std::string_view transactions = between(header, "<NbOfTxs>", "<");
+  const std::string_view sum = between(header, "<CtrlSum>", "<");
+  const std::string_view schema = between(document, ":xsd:", "\"");
+  return {line("transactions", std::string(transactions)), line("sum", std::string(sum) + " EUR"),
+          line("payment blocks", std::to_string(count(document, "<PmtInf>"))),
+          line("rulebook", rulebook + " (" + std::string(schema) + ")"), line("file", file)};
+}
+
+}  // namespace tivex_program

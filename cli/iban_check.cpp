@@ -1,0 +1,96 @@
+#include "iban_check.h"
+
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "diagnostics.h"
+#include "exit_status.h"
+#include "handles.h"
+#include "value_rules.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr const char* example = R"(Example:
+  tivex iban check DE89370400440532013000 DE88370400440532013000
+
+prints
+
+  DE89370400440532013000: valid
+  DE88370400440532013000: Invalid IBAN checksum)";
+
+// Returns why the IBAN is invalid, empty when it is valid.
+std::string iban_fault(tivex_t* scratch, const std::string& iban) {
+  // The library would see a text with a NUL byte up to it only.
+  std::string fault = text_fault(iban);
+  if (!fault.empty() || tivex_setIBAN(scratch, iban.c_str()) == 1) return fault;
+  const std::string reason = tivex_getError(scratch);
+  // What follows the reason repeats the IBAN.
+  return reason.substr(0, reason.find(" ("));
+}
+
+// Checks IBANs one by one and prints what it finds.
+class iban_checker {
+ public:
+  iban_checker() : scratch_(tivex_new(TIVEX_CREDIT_TRANSFER)) {
+    if (!scratch_) throw std::bad_alloc();
+  }
+
+  void check(const std::string& iban) {
+    const std::string fault = iban_fault(scratch_.get(), iban);
+    if (!fault.empty()) all_valid_ = false;
+    std::printf("%s: %s\n", printable(iban).c_str(), fault.empty() ? "valid" : fault.c_str());
+  }
+
+  void check_lines(std::istream& lines) {
+    for (std::string line; std::getline(lines, line);) {
+      if (line.ends_with('\r')) line.pop_back();
+      if (!line.empty()) check(line);
+    }
+  }
+
+  bool all_valid() const { return all_valid_; }
+
+ private:
+  message_handle scratch_;
+  bool all_valid_ = true;
+};
+
+int run(const std::vector<std::string>& ibans) {
+  iban_checker checker;
+  for (const std::string& iban : ibans) {
+    if (iban == "-") {
+      checker.check_lines(std::cin);
+    } else {
+      checker.check(iban);
+    }
+  }
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    print_error(std::string("standard output: ") + std::strerror(errno));
+    return exit_failure;
+  }
+  return checker.all_valid() ? exit_success : exit_failure;
+}
+
+}  // namespace
+
+void add_iban_check(CLI::App& program, int& exit_status) {
+  CLI::App* const iban = program.add_subcommand("iban", "Work with IBANs");
+  iban->require_subcommand(1);
+  iban->footer(example);
+  CLI::App* const check = iban->add_subcommand("check", "Tell for each IBAN whether it is valid");
+  const auto ibans = std::make_shared<std::vector<std::string>>();
+  check->add_option("IBAN", *ibans, "IBANs to check; - for the lines of standard input")
+      ->type_name("")
+      ->required();
+  check->footer(example);
+  check->callback([&exit_status, ibans] { exit_status = run(*ibans); });
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,53 @@
+#include <tivex.h>
+
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <exception>
+#include <string>
+
+#include "credit_transfer.h"
+#include "diagnostics.h"
+#include "exit_status.h"
+#include "iban_check.h"
+
+namespace tivex_program {
+namespace {
+
+int run(int argument_count, char** arguments) {
+  int exit_status = exit_success;
+  CLI::App program("Payments in the Single Euro Payments Area", "tivex");
+  program.set_version_flag("--version", std::string("tivex ") + tivex_version_str);
+  program.require_subcommand(1);
+  program.footer("tivex COMMAND --help shows the command's options and an example.");
+  add_payment_command(program, credit_transfer, exit_status);
+  add_iban_check(program, exit_status);
+  try {
+    program.parse(argument_count, arguments);
+  } catch (const CLI::RequiredError& error) {
+    // A misspelt command is not the one that is missing.
+    for (const std::string& unknown : program.remaining(true)) {
+      print_error("unknown command or option '" + unknown + "'");
+    }
+    program.exit(error);
+    return exit_usage;
+  } catch (const CLI::ParseError& error) {
+    // Help and version arrive here too, as errors of status 0.
+    return program.exit(error) == 0 ? exit_success : exit_usage;
+  }
+  return exit_status;
+}
+
+}  // namespace
+}  // namespace tivex_program
+
+int main(int argument_count, char** arguments) {
+  // A write that fails is reported, and what it leaves behind is removed.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  try {
+    return tivex_program::run(argument_count, arguments);
+  } catch (const std::exception& error) {
+    tivex_program::print_error(error.what());
+    return tivex_program::exit_failure;
+  }
+}

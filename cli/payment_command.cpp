@@ -1,0 +1,153 @@
+#include "payment_command.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "diagnostics.h"
+#include "document_summary.h"
+#include "exit_status.h"
+#include "fault_report.h"
+#include "handles.h"
+#include "input_file.h"
+#include "output_file.h"
+#include "rulebooks.h"
+#include "transactions.h"
+
+namespace tivex_program {
+namespace {
+
+const std::map<std::string, char> delimiters = {{",", ','}, {";", ';'}, {"tab", '\t'}};
+
+struct payment_arguments {
+  std::string rulebook = default_rulebook;
+  std::vector<std::string> header;  // the values of the command's options
+  std::vector<const CLI::Option*> given;
+  bool single_booking = false;
+  std::string output = "-";
+  std::string delimiter = ",";
+  std::string input;
+};
+
+int usage_error(const std::string& text) {
+  print_error(text);
+  return exit_usage;
+}
+
+// Returns what is wrong with an option's value, empty when it was set.
+std::string set_header_value(tivex_t* message, const header_option& option,
+                             const std::string& value) {
+  std::string fault = option.rule(value);
+  if (fault.empty() && option.set(message, value.c_str()) != 1) fault = tivex_getError(message);
+  return fault;
+}
+
+bool same_file(const std::string& left, const std::string& right) {
+  std::error_code ignored;
+  return std::filesystem::equivalent(left, right, ignored);
+}
+
+// Returns the names of the columns as a paragraph of the help text.
+std::string list_columns(std::span<const column> columns) {
+  constexpr std::size_t line_length = 78;
+  std::string text;
+  std::string line = "Columns:";
+  for (const column& c : columns) {
+    const std::string name = std::string(" ") + c.key;
+    if (line.size() + name.size() > line_length) text += std::exchange(line, " ") + "\n";
+    line += name;
+  }
+  return text + line + "\n";
+}
+
+int write_document(const payment_arguments& arguments, std::string_view document) {
+  const bool to_file = arguments.output != "-";
+  const std::string name = to_file ? arguments.output : "standard output";
+  const std::string fault =
+      to_file ? replace_file(arguments.output, document) : write_standard_output(document);
+  if (!fault.empty()) {
+    print_error(name + ": " + fault);
+    return exit_failure;
+  }
+  for (const std::string& line : document_summary(document, arguments.rulebook, name)) {
+    print_error(line);
+  }
+  return exit_success;
+}
+
+int run(const payment_command& command, const payment_arguments& arguments) {
+  const std::string unknown = select_rulebook(arguments.rulebook);
+  if (!unknown.empty()) return usage_error("--rulebook: " + unknown);
+  const message_handle message(tivex_new(command.transactions.message_type));
+  if (!message) throw std::bad_alloc();
+  for (std::size_t i = 0; i < command.options.size(); ++i) {
+    if (arguments.given[i]->count() == 0) continue;
+    const std::string fault =
+        set_header_value(message.get(), command.options[i], arguments.header[i]);
+    if (!fault.empty()) return usage_error(std::string(command.options[i].flag) + ": " + fault);
+  }
+  tivex_setBatchBooking(message.get(), arguments.single_booking ? 0 : 1);
+
+  if (same_file(arguments.input, arguments.output)) {
+    return usage_error("--output: " + arguments.output + " is the file to read");
+  }
+  input_file input(arguments.input);
+  fault_report faults(input.name());
+  const row_format format{command.transactions, delimiters.at(arguments.delimiter),
+                          arguments.rulebook};
+  add_transactions(message.get(), input, format, faults);
+  if (!faults.empty()) {
+    faults.print();
+    return exit_failure;
+  }
+  const document_handle document(tivex_toXML(message.get()));
+  if (!document) {
+    print_error(tivex_getError(message.get()));
+    return exit_failure;
+  }
+  return write_document(arguments, document.get());
+}
+
+}  // namespace
+
+void add_payment_command(CLI::App& program, const payment_command& command, int& exit_status) {
+  CLI::App* const parser = program.add_subcommand(command.name, command.description);
+  const auto arguments = std::make_shared<payment_arguments>();
+  // CLI11 keeps references to the values: they must not move.
+  arguments->header.resize(command.options.size());
+
+  parser->add_option("--rulebook", arguments->rulebook, std::string("Rulebook: ") + known_rulebooks)
+      ->type_name("NAME")
+      ->capture_default_str();
+  for (std::size_t i = 0; i < command.options.size(); ++i) {
+    const header_option& option = command.options[i];
+    arguments->given.push_back(
+        parser->add_option(option.flag, arguments->header[i], option.description)
+            ->type_name(option.placeholder)
+            ->required(option.required));
+  }
+  parser->add_flag("--single-booking", arguments->single_booking,
+                   "Ask the bank to book the transactions singly");
+  parser
+      ->add_option("-o,--output", arguments->output,
+                   "File to write (default: - for standard output)")
+      ->type_name("FILE");
+  parser->add_option("--delimiter", arguments->delimiter, "What separates the cells: , ; or tab")
+      ->type_name("CHAR")
+      ->check(CLI::IsMember(delimiters).description(""))
+      ->capture_default_str();
+  parser
+      ->add_option("FILE", arguments->input,
+                   "CSV file with one transaction a line; - for standard input")
+      ->type_name("")
+      ->required();
+  parser->footer(list_columns(command.transactions.columns) + "\n" + command.example);
+  parser->callback([&command, &exit_status, arguments] { exit_status = run(command, *arguments); });
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <tivex.h>
+
+#include <span>
+
+#include "transaction_kind.h"
+#include "value_rules.h"
+
+namespace CLI {
+class App;
+}
+
+namespace tivex_program {
+
+// A value of the message's header that an option sets.
+struct header_option {
+  const char* flag;
+  const char* placeholder;
+  const char* description;
+  bool required;
+  int (*set)(tivex_t* message, const char* value);
+  value_rule rule = text_fault;
+};
+
+// A command that writes one payment document from a CSV file.
+struct payment_command {
+  const char* name;
+  const char* description;
+  const char* example;
+  std::span<const header_option> options;
+  transaction_kind transactions;
+};
+
+// Adds the command to the program; when it runs it sets the exit status. The
+// command and what it refers to must outlive the program's arguments.
+void add_payment_command(CLI::App& program, const payment_command& command, int& exit_status);
+
+}  // namespace tivex_program

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "fault_report.h"
+#include "handles.h"
+#include "input_file.h"
+#include "transaction_kind.h"
+
+namespace tivex_program {
+
+// What the rows of a CSV file are read as.
+struct row_format {
+  const transaction_kind& kind;
+  char delimiter;
+  std::string rulebook;
+};
+
+// Adds each row of the file to the message as one transaction. The message is
+// complete only when no fault was reported.
+void add_transactions(tivex_t* message, input_file& input, const row_format& format,
+                      fault_report& faults);
+
+}  // namespace tivex_program
