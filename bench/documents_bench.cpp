@@ -83,7 +83,11 @@ void write_only(benchmark::State& state) {
 
 void sizes(benchmark::internal::Benchmark* bench) {
   bench->ArgNames({"transactions", "dates"});
-  bench->Args({1000, 10})->Args({100000, 10})->Args({100000, 1000})->Args({100000, 100000})->Args({500000, 3});
+  bench->Args({1000, 10})
+      ->Args({100000, 10})
+      ->Args({100000, 1000})
+      ->Args({100000, 100000})
+      ->Args({500000, 3});
   bench->Unit(benchmark::kMillisecond);
 }
 BENCHMARK(add_and_write)->Apply(sizes);

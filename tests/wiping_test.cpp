@@ -13,13 +13,19 @@ TEST(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
       ASSERT_EQ(tivex_setName(msg.get(), secret), 1);
       ASSERT_EQ(tivex_setMessageId(msg.get(), secret), 1);
     }
+    // Escaped, the addresses are longer than the writer expects.
+    const std::string wide(70, '&');
     for (int count = 0; count < 20; ++count) {
       ASSERT_EQ(add(msg, {{"iban", secret},
                           {"amount", "1"},
                           {"ref", secret},
                           {"ref", secret},
                           {"addrTown", secret},
-                          {"addrTown", secret}}),
+                          {"addrTown", secret},
+                          {"addrDept", wide.c_str()},
+                          {"addrRoom", wide.c_str()},
+                          {"addrFloor", wide.c_str()},
+                          {"addrStreet", wide.c_str()}}),
                 1);
     }
     // A half-built record, an error text in the message, a document that grows
@@ -29,8 +35,10 @@ TEST(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
     const char* const document = tivex_toXML(msg.get());
     ASSERT_NE(document, nullptr);
     EXPECT_NE(std::string_view(document).find("386011117"), std::string_view::npos);
-    const runtime_control::failing_allocation failing(6, true);
-    EXPECT_EQ(tivex_toXML(msg.get()), nullptr);
+    for (std::size_t n = 1; n <= 5; ++n) {
+      const runtime_control::failing_allocation failing(n, true);
+      EXPECT_EQ(tivex_toXML(msg.get()), nullptr) << n;
+    }
     explicit_bzero(const_cast<char*>(document), std::strlen(document));
     std::free(const_cast<char*>(document));
   }

@@ -3,6 +3,7 @@
 #include "core/rulebook.h"
 #include "core/wiped_object.h"
 #include "transactions/credit_transfer.h"
+#include "transactions/direct_debit.h"
 
 namespace tivex {
 
@@ -25,6 +26,8 @@ void tivex_free(tivex_t* msg) {
   if (msg == nullptr) return;
   if (msg->type == TIVEX_CREDIT_TRANSFER) {
     tivex::release_transactions<tivex::ct_transaction>(*msg);
+  } else {
+    tivex::release_transactions<tivex::dd_transaction>(*msg);
   }
   tivex::destroy_wiped(msg);
 }

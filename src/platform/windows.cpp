@@ -6,9 +6,7 @@
 
 namespace tivex::platform {
 
-std::time_t now() {
-  return std::time(nullptr);
-}
+std::time_t now() { return std::time(nullptr); }
 
 calendar_time local_calendar(std::time_t moment) {
   std::tm parts{};
@@ -20,12 +18,8 @@ calendar_time utc_calendar(std::time_t moment) {
   return gmtime_s(&parts, &moment) == 0 ? from_broken_down(parts) : calendar_time{};
 }
 
-std::uint32_t process_id() {
-  return GetCurrentProcessId();
-}
+std::uint32_t process_id() { return GetCurrentProcessId(); }
 
-void wipe(void* memory, std::size_t size) {
-  SecureZeroMemory(memory, size);
-}
+void wipe(void* memory, std::size_t size) { SecureZeroMemory(memory, size); }
 
 }  // namespace tivex::platform

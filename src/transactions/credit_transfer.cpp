@@ -17,9 +17,7 @@ constexpr std::array<key_rule<ct_transaction>, 1> own_keys = {{
      {4, 4, "Invalid purpose (must be 4 characters)"}},
 }};
 
-bool ignore_unknown(message& /*msg*/, const char* /*key*/) {
-  return true;
-}
+bool ignore_unknown(message& /*msg*/, const char* /*key*/) { return true; }
 
 bool complete(message& msg, const ct_transaction& added) {
   return has_account(msg, added) && has_amount(msg, added.amount);

@@ -5,9 +5,7 @@
 
 namespace tivex {
 
-bool has_date_length(const char* text) {
-  return text != nullptr && std::strlen(text) == 10;
-}
+bool has_date_length(const char* text) { return text != nullptr && std::strlen(text) == 10; }
 
 bool scan_date(const char* text) {
   unsigned year = 0;

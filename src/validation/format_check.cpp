@@ -16,9 +16,7 @@ constinit pattern_set<1> bic_pattern({"^[A-Z]{6}[A-Z2-9][A-NP-Z0-9]([A-Z0-9]{3})
 // By kind; a BIC is measured by its pattern.
 constexpr std::array<std::size_t, 4> longest_text = {0, 70, 16, 35};
 
-bool bic_pattern_ready() {
-  return bic_pattern.ready();
-}
+bool bic_pattern_ready() { return bic_pattern.ready(); }
 
 }  // namespace
 
@@ -29,8 +27,6 @@ bool format_check(unsigned kind, const char* text) {
   return *text != '\0' && std::strlen(text) <= longest_text[kind];
 }
 
-void bic_release_pattern() {
-  bic_pattern.release();
-}
+void bic_release_pattern() { bic_pattern.release(); }
 
 }  // namespace tivex

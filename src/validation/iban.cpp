@@ -22,9 +22,7 @@ constinit pattern_set<country_count> iban_patterns([] {
   return patterns;
 }());
 
-bool iban_patterns_ready() {
-  return iban_patterns.ready();
-}
+bool iban_patterns_ready() { return iban_patterns.ready(); }
 
 // The row of the country that the first two characters name, in either case;
 // country_count when there is none.
@@ -61,20 +59,12 @@ bool iban_validate(const char* iban, const char** reason) {
   return fault == nullptr;
 }
 
-int iban_remainder(const char* iban) {
-  return mod97_rearranged(iban, 4);
-}
+int iban_remainder(const char* iban) { return mod97_rearranged(iban, 4); }
 
-bool iban_compile_patterns() {
-  return iban_patterns.compile();
-}
+bool iban_compile_patterns() { return iban_patterns.compile(); }
 
-void iban_release_patterns() {
-  iban_patterns.release();
-}
+void iban_release_patterns() { iban_patterns.release(); }
 
 }  // namespace tivex
 
-int tivex_iban_check(const char* iban) {
-  return tivex::iban_validate(iban, nullptr) ? 1 : -1;
-}
+int tivex_iban_check(const char* iban) { return tivex::iban_validate(iban, nullptr) ? 1 : -1; }

@@ -5,31 +5,19 @@
 #include "transactions/credit_transfer.h"
 #include "xml/document_frame.h"
 #include "xml/document_stamp.h"
-#include "xml/document_writer.h"
 #include "xml/parties.h"
-#include "xml/payment_blocks.h"
-#include "xml/schema.h"
 
 namespace tivex {
 
 namespace {
 
-// About as long as the elements of a transaction are.
-constexpr std::uint64_t typical_transaction_bytes = 1200;
-
-void write_payment_type(document_writer& out) {
-  const element type(out, "PmtTpInf");
-  const element service_level(out, "SvcLvl");
-  out.fixed("Cd", "SEPA");
-}
-
 void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
                           const payment_block<ct_transaction>& block, int number) {
-  write_payment_id(out, msg, number);
-  out.fixed("PmtMtd", "TRF");
-  write_batch_booking(out, msg);
-  write_totals(out, block.count, block.sum);
-  write_payment_type(out);
+  write_payment_start(out, msg, "TRF", number, block.count, block.sum);
+  {
+    const element type(out, "PmtTpInf");
+    write_service_level(out);
+  }
   out.value("ReqdExctnDt", block.date);
   write_party(out, "Dbtr", msg.name);
   write_account(out, "DbtrAcct", msg.iban);
@@ -69,13 +57,6 @@ void write_transaction(document_writer& out, const document_schema& schema,
   write_remittance(out, tx);
 }
 
-void write_payment(document_writer& out, const message& msg, const document_schema& schema,
-                   const payment_block<ct_transaction>& block, int number) {
-  const element payment(out, "PmtInf");
-  write_payment_header(out, msg, schema, block, number);
-  for (const auto& [date, place, tx] : block.transactions) write_transaction(out, schema, *tx);
-}
-
 }  // namespace
 
 bool cti_toXML(message& msg, xml_buffer_t& out) {
@@ -85,20 +66,14 @@ bool cti_toXML(message& msg, xml_buffer_t& out) {
   if (schema == nullptr) return msg.fail("unknown/unsupported SEPA rulebook selected");
 
   payment_blocks<ct_transaction> blocks;
-  if (!blocks.group(msg)) return false;
+  if (!blocks.group(msg, [](const ct_transaction& /*tx*/) { return 0; })) return false;
 
-  xml_buffer_expect(out, msg.tx_count * typical_transaction_bytes);
-  document_writer writer(out);
-  {
-    const document_attributes attributes(*schema, schema->credit_transfer);
-    const element document(writer, "Document", attributes.c_str());
-    const element initiation(writer, "CstmrCdtTrfInitn");
-    write_group_header(writer, msg, moment);
-    for (int number = 1; const auto block = blocks.next(); ++number) {
-      write_payment(writer, msg, *schema, *block, number);
-    }
-  }
-  return writer.succeeded(msg);
+  const document_form form = {.schema = *schema,
+                              .version = schema->credit_transfer,
+                              .initiation = "CstmrCdtTrfInitn",
+                              .typical_transaction_bytes = 1200,
+                              .moment = moment};
+  return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }
 
 }  // namespace tivex

@@ -7,7 +7,26 @@
 
 namespace tivex {
 
-document_attributes::document_attributes(const document_schema& schema, const char* version) {
+namespace {
+
+// The number of transactions and the sum of their amounts.
+void write_totals(document_writer& out, std::uint32_t count, double sum) {
+  number_text text;
+  format_count(text, sizeof text, count);
+  out.value("NbOfTxs", text);
+  format_amount(text, sizeof text, sum);
+  out.value("CtrlSum", text);
+}
+
+void write_payment_id(document_writer& out, const message& msg, int number) {
+  char id[64];
+  bounded_format(id, sizeof id, "%s-P%i", msg.message_id.c_str(), number);
+  out.value("PmtInfId", id);
+}
+
+}  // namespace
+
+document_attributes::document_attributes(const document_form& form) {
   constexpr const char* names =
       " xmlns=\"urn:iso:std:iso:20022:tech:xsd:%s\""
       " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
@@ -15,7 +34,8 @@ document_attributes::document_attributes(const document_schema& schema, const ch
       " xmlns=\"urn:iso:std:iso:20022:tech:xsd:%s\""
       " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
       " xsi:schemaLocation=\"urn:iso:std:iso:20022:tech:xsd:%s %s.xsd\"";
-  if (schema.has_location) {
+  const char* const version = form.version;
+  if (form.schema.has_location) {
     bounded_format(text_, sizeof text_, names_and_location, version, version, version);
   } else {
     bounded_format(text_, sizeof text_, names, version);
@@ -33,22 +53,17 @@ void write_group_header(document_writer& out, const message& msg, std::time_t mo
   write_party(out, "InitgPty", msg.name);
 }
 
-void write_payment_id(document_writer& out, const message& msg, int number) {
-  char id[64];
-  bounded_format(id, sizeof id, "%s-P%i", msg.message_id.c_str(), number);
-  out.value("PmtInfId", id);
-}
-
-void write_batch_booking(document_writer& out, const message& msg) {
+void write_payment_start(document_writer& out, const message& msg, const char* method, int number,
+                         std::uint32_t count, double sum) {
+  write_payment_id(out, msg, number);
+  out.fixed("PmtMtd", method);
   out.fixed("BtchBookg", msg.batch_booking == 1 ? "true" : "false");
+  write_totals(out, count, sum);
 }
 
-void write_totals(document_writer& out, std::uint32_t count, double sum) {
-  number_text text;
-  format_count(text, sizeof text, count);
-  out.value("NbOfTxs", text);
-  format_amount(text, sizeof text, sum);
-  out.value("CtrlSum", text);
+void write_service_level(document_writer& out) {
+  const element service_level(out, "SvcLvl");
+  out.fixed("Cd", "SEPA");
 }
 
 void write_amount(document_writer& out, double amount) {

@@ -1,18 +1,29 @@
-// What both documents begin with.
+// What both documents are built from: the elements around the payments.
 #pragma once
 
+#include <cstdint>
 #include <ctime>
 
 #include "core/message.h"
 #include "xml/document_writer.h"
+#include "xml/payment_blocks.h"
 #include "xml/schema.h"
 
 namespace tivex {
 
-// The attributes of the Document element for a version of the schema.
+// What a document is called, and when it is written.
+struct document_form {
+  const document_schema& schema;
+  const char* version;     // of the schema, for this kind of document
+  const char* initiation;  // the element below Document
+  std::uint64_t typical_transaction_bytes;
+  std::time_t moment;
+};
+
+// The attributes of the Document element.
 class document_attributes {
  public:
-  document_attributes(const document_schema& schema, const char* version);
+  explicit document_attributes(const document_form& form);
   const char* c_str() const { return text_; }
 
  private:
@@ -21,15 +32,45 @@ class document_attributes {
 
 void write_group_header(document_writer& out, const message& msg, std::time_t moment);
 
-// The identifier of the payment block with a number, counted from 1.
-void write_payment_id(document_writer& out, const message& msg, int number);
+// The elements that payment blocks begin with. `method` is the payment method;
+// blocks are numbered from 1.
+void write_payment_start(document_writer& out, const message& msg, const char* method, int number,
+                         std::uint32_t count, double sum);
 
-void write_batch_booking(document_writer& out, const message& msg);
-
-// The number of transactions and the sum of their amounts.
-void write_totals(document_writer& out, std::uint32_t count, double sum);
+void write_service_level(document_writer& out);
 
 // An amount of a transaction in euro.
 void write_amount(document_writer& out, double amount);
+
+// How the payments of a kind of document are written; blocks are numbered from 1.
+template <class record>
+struct payment_writer {
+  void (*header)(document_writer& out, const message& msg, const document_schema& schema,
+                 const payment_block<record>& block, int number);
+  void (*transaction)(document_writer& out, const document_schema& schema, const record& tx);
+};
+
+// Writes a whole document. False, with the reason in the message, when something
+// did not fit.
+template <class record>
+bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form,
+                      payment_blocks<record>& blocks, const payment_writer<record>& write) {
+  xml_buffer_expect(out, msg.tx_count * form.typical_transaction_bytes);
+  document_writer writer(out);
+  {
+    const document_attributes attributes(form);
+    const element document(writer, "Document", attributes.c_str());
+    const element initiation(writer, form.initiation);
+    write_group_header(writer, msg, form.moment);
+    for (int number = 1; const auto block = blocks.next(); ++number) {
+      const element payment(writer, "PmtInf");
+      write.header(writer, msg, form.schema, *block, number);
+      for (const auto& entry : block->transactions) {
+        write.transaction(writer, form.schema, *entry.tx);
+      }
+    }
+  }
+  return writer.succeeded(msg);
+}
 
 }  // namespace tivex

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <span>
@@ -15,31 +16,37 @@
 
 namespace tivex {
 
-// A transaction with what orders it: the date and its place in the message.
+// A transaction with what orders it: the date, the slot within the date, and its
+// place in the message.
 template <class record>
 struct grouped_transaction {
   date_key date;
+  std::int32_t slot;
   std::uint32_t place;
   const record* tx;
 };
 
-// The transactions of one date in the order of adding.
+// The transactions of one date and slot in the order of adding.
 template <class record>
 struct payment_block {
   const char* date = nullptr;
+  std::int32_t slot = 0;
   double sum = 0.0;
   std::uint32_t count = 0;
   std::span<const grouped_transaction<record>> transactions;
 };
 
-// The blocks of a message in ascending order of their dates, made one by one.
-// They come from sorting, which takes n log n steps whatever the dates are.
+// The blocks of a message in ascending order of dates and, within a date, of
+// slots, made one by one. They come from sorting, which takes n log n steps
+// whatever the dates are.
 template <class record>
 class payment_blocks {
  public:
-  // False, with the reason in the message, when the transactions cannot be
-  // grouped. The message must stay as it is while blocks are asked for.
-  bool group(message& msg);
+  // `slot_of` tells the slot of a record. False, with the reason in the message,
+  // when the transactions cannot be grouped. The message must stay as it is while
+  // blocks are asked for.
+  template <class slot_function>
+  bool group(message& msg, slot_function slot_of);
 
   // The next block; none behind the last.
   std::optional<payment_block<record>> next();
@@ -58,7 +65,8 @@ class payment_blocks {
 };
 
 template <class record>
-bool payment_blocks<record>::group(message& msg) {
+template <class slot_function>
+bool payment_blocks<record>::group(message& msg, slot_function slot_of) {
   if (msg.tx_count == 0) return true;
   default_date_ = msg.date.c_str();
   entries_.reset(static_cast<entry*>(std::calloc(msg.tx_count, sizeof(entry))));
@@ -69,10 +77,11 @@ bool payment_blocks<record>::group(message& msg) {
   for (std::uint32_t place = 0; place < msg.tx_count; ++place, tx = tx->next) {
     const char* const date = date_of(*tx);
     if (std::strlen(date) > date_key::length) return msg.fail("Internal error (pmt not found)");
-    all[place] = {date_key(date), place, tx};
+    all[place] = {date_key(date), slot_of(*tx), place, tx};
   }
   std::sort(all.begin(), all.end(), [](const entry& left, const entry& right) {
-    return std::tie(left.date, left.place) < std::tie(right.date, right.place);
+    return std::tie(left.date, left.slot, left.place) <
+           std::tie(right.date, right.slot, right.place);
   });
   left_ = all;
   return true;
@@ -81,10 +90,12 @@ bool payment_blocks<record>::group(message& msg) {
 template <class record>
 std::optional<payment_block<record>> payment_blocks<record>::next() {
   if (left_.empty()) return std::nullopt;
+  const entry& first = left_.front();
   payment_block<record> block;
-  block.date = date_of(*left_.front().tx);
+  block.date = date_of(*first.tx);
+  block.slot = first.slot;
   for (const entry& candidate : left_) {
-    if (candidate.date != left_.front().date) break;
+    if (candidate.date != first.date || candidate.slot != first.slot) break;
     block.sum += candidate.tx->amount;
     ++block.count;
   }

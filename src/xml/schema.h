@@ -5,10 +5,13 @@
 
 namespace tivex {
 
+// Versions are named as their namespaces and files are.
 struct document_schema {
-  const char* credit_transfer;  // the version's name, also of its namespace and file
-  bool has_location;            // whether the document names the schema's file
-  const char* bic_element;      // within FinInstnId
+  const char* credit_transfer;
+  const char* direct_debit;
+  bool has_location;        // whether the document names the schema's file
+  const char* bic_element;  // within FinInstnId
+  bool smnda_on_account;    // where a change of the debtor's account is marked, else on the agent
 };
 
 // The schema of the rulebook with a number; null when there is none.

@@ -1,6 +1,7 @@
 #include "core/message.h"
 #include "tivex.h"
 #include "xml/credit_transfer_document.h"
+#include "xml/direct_debit_document.h"
 #include "xml/document_stamp.h"
 #include "xml/xml_buffer.h"
 
@@ -10,6 +11,7 @@ namespace {
 
 bool write_document(message& msg, xml_buffer_t& out) {
   if (msg.type == TIVEX_CREDIT_TRANSFER) return cti_toXML(msg, out);
+  if (msg.type == TIVEX_DIRECT_DEBIT) return ddi_toXML(msg, out);
   return false;
 }
 

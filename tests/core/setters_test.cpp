@@ -7,9 +7,7 @@
 namespace {
 
 const std::string long_text(200, 'x');
-const char* letters(std::size_t count) {
-  return long_text.c_str() + 200 - count;
-}
+const char* letters(std::size_t count) { return long_text.c_str() + 200 - count; }
 
 const std::string thirty_five_umlauts = [] {
   std::string text;

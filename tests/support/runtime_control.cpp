@@ -48,9 +48,7 @@ failing_allocation::~failing_allocation() {
   allocations_left = 0;
   all_later_fail = false;
 }
-bool failing_allocation::happened() const {
-  return failure_happened;
-}
+bool failing_allocation::happened() const { return failure_happened; }
 
 fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int second) {
   std::tm parts = {};
@@ -62,9 +60,7 @@ fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int
   parts.tm_sec = second;
   clock_moment = timegm(&parts);
 }
-fixed_clock::~fixed_clock() {
-  clock_moment.reset();
-}
+fixed_clock::~fixed_clock() { clock_moment.reset(); }
 
 fixed_zone::fixed_zone(const char* zone) {
   setenv("TZ", zone, 1);
@@ -75,27 +71,17 @@ fixed_zone::~fixed_zone() {
   tzset();
 }
 
-fixed_process_id::fixed_process_id(unsigned id) {
-  process_id = id;
-}
-fixed_process_id::~fixed_process_id() {
-  process_id.reset();
-}
+fixed_process_id::fixed_process_id(unsigned id) { process_id = id; }
+fixed_process_id::~fixed_process_id() { process_id.reset(); }
 
 released_text_watch::released_text_watch(std::string text) {
   watched_blocks = 0;
   watched_blocks_with_text = 0;
   watched_text = std::move(text);
 }
-released_text_watch::~released_text_watch() {
-  watched_text.clear();
-}
-std::size_t released_text_watch::blocks_released() const {
-  return watched_blocks;
-}
-std::size_t released_text_watch::blocks_with_text() const {
-  return watched_blocks_with_text;
-}
+released_text_watch::~released_text_watch() { watched_text.clear(); }
+std::size_t released_text_watch::blocks_released() const { return watched_blocks; }
+std::size_t released_text_watch::blocks_with_text() const { return watched_blocks_with_text; }
 
 }  // namespace runtime_control
 
@@ -112,9 +98,7 @@ int __real_regcomp(regex_t* compiled, const char* pattern, int flags);
 std::time_t __real_time(std::time_t* moment);
 pid_t __real_getpid(void);
 
-void* __wrap_malloc(std::size_t size) {
-  return allocation_fails() ? nullptr : __real_malloc(size);
-}
+void* __wrap_malloc(std::size_t size) { return allocation_fails() ? nullptr : __real_malloc(size); }
 
 void* __wrap_calloc(std::size_t count, std::size_t size) {
   return allocation_fails() ? nullptr : __real_calloc(count, size);
@@ -139,7 +123,5 @@ std::time_t __wrap_time(std::time_t* moment) {
   return now;
 }
 
-pid_t __wrap_getpid(void) {
-  return process_id ? static_cast<pid_t>(*process_id) : __real_getpid();
-}
+pid_t __wrap_getpid(void) { return process_id ? static_cast<pid_t>(*process_id) : __real_getpid(); }
 }

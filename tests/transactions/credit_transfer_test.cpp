@@ -6,9 +6,7 @@
 namespace {
 
 const std::string long_text(200, 'x');
-const char* letters(std::size_t count) {
-  return long_text.c_str() + 200 - count;
-}
+const char* letters(std::size_t count) { return long_text.c_str() + 200 - count; }
 
 const tivex::ct_transaction& last_of(const message_ptr& msg) {
   return static_cast<const tivex::ct_transaction&>(*msg->last);
