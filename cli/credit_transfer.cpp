@@ -2,7 +2,7 @@
 
 #include <tivex.h>
 
-#include "rulebooks.h"
+#include "payment_columns.h"
 
 namespace tivex_program {
 namespace {
@@ -17,32 +17,7 @@ constexpr header_option options[] = {
      tivex_setMessageId},
 };
 
-constexpr column columns[] = {
-    {"iban"},
-    {"name"},
-    {"amount"},
-    {"ref"},
-    {"bic"},
-    {"purp", purpose_fault},
-    {"date", date_fault},
-    {"id", unescaped_fault},
-    {"addrCC"},
-    {"addrLine1"},
-    {"addrLine2"},
-    {"addrDept", text_fault, structured_rulebook},
-    {"addrSubDept", text_fault, structured_rulebook},
-    {"addrStreet", text_fault, structured_rulebook},
-    {"addrNum", text_fault, structured_rulebook},
-    {"addrBldg", text_fault, structured_rulebook},
-    {"addrFloor", text_fault, structured_rulebook},
-    {"addrPoBox", text_fault, structured_rulebook},
-    {"addrRoom", text_fault, structured_rulebook},
-    {"addrCode", text_fault, structured_rulebook},
-    {"addrTown", text_fault, structured_rulebook},
-    {"addrLoc", text_fault, structured_rulebook},
-    {"addrDstrct", text_fault, structured_rulebook},
-    {"addrCtrySub", text_fault, structured_rulebook},
-};
+constexpr auto columns = with_shared_columns(std::array{column{"purp", purpose_fault}});
 
 constexpr tivex_keyvalue_t sound_values[] = {
     {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}};

@@ -7,6 +7,7 @@
 
 #include "credit_transfer.h"
 #include "diagnostics.h"
+#include "direct_debit.h"
 #include "exit_status.h"
 #include "iban_check.h"
 
@@ -20,6 +21,7 @@ int run(int argument_count, char** arguments) {
   program.require_subcommand(1);
   program.footer("tivex COMMAND --help shows the command's options and an example.");
   add_payment_command(program, credit_transfer, exit_status);
+  add_payment_command(program, direct_debit, exit_status);
   add_iban_check(program, exit_status);
   try {
     program.parse(argument_count, arguments);

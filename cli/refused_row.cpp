@@ -1,5 +1,7 @@
 #include "refused_row.h"
 
+#include <utility>
+
 #include "handles.h"
 
 namespace tivex_program {
@@ -8,6 +10,15 @@ namespace {
 std::string reason_of(const tivex_t* message) {
   const char* const text = tivex_getError(message);
   return text == nullptr ? "refused" : text;
+}
+
+// The key that a transaction lacks when it is refused for a reason; null when the
+// reason is another.
+const char* missing_key(const transaction_kind& kind, const std::string& reason) {
+  for (const missing_value& missing : kind.missing_values) {
+    if (reason == missing.reason) return missing.key;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -20,13 +31,14 @@ row_fault explain(const tivex_t* message, const transaction_kind& kind,
     std::vector<tivex_keyvalue_t> alone(kind.sound_values.begin(), kind.sound_values.end());
     alone.push_back(entry);
     alone.push_back({nullptr, nullptr});
-    if (tivex_add(scratch.get(), alone.data()) != 1) return {entry.key, reason_of(scratch.get())};
+    if (tivex_add(scratch.get(), alone.data()) == 1) continue;
+    // What the value lacks alone, the row may have.
+    std::string reason = reason_of(scratch.get());
+    if (missing_key(kind, reason) == nullptr) return {entry.key, std::move(reason)};
   }
-  row_fault fault{{}, reason_of(message)};
-  for (const missing_value& missing : kind.missing_values) {
-    if (fault.reason == missing.reason) fault.key = missing.key;
-  }
-  return fault;
+  std::string reason = reason_of(message);
+  const char* const key = missing_key(kind, reason);
+  return {key == nullptr ? "" : key, std::move(reason)};
 }
 
 }  // namespace tivex_program

@@ -1,9 +1,9 @@
 /*
  * tivex: payments in the Single Euro Payments Area.
  *
- * The library writes pain.001 documents from key-value transactions under ten
- * national rulebooks and validates IBANs and BICs. This header is its whole
- * interface; it is valid C89, C11 and C++.
+ * The library writes pain.001 and pain.008 documents from key-value transactions
+ * under ten national rulebooks and validates IBANs and BICs. This header is its
+ * whole interface; it is valid C89, C11 and C++.
  *
  * What holds for every function
  *
@@ -228,80 +228,127 @@ TIVEX_API int tivex_setBatchBooking(tivex_t *msg, unsigned char mode);
 TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
 
 /*
- * Adds one transaction to a credit transfer message: a payment from the
- * message's own account to one creditor. Direct debit messages take header
- * values only so far; for them the result is 0 and nothing happens.
+ * Adds one transaction: to a credit transfer message a payment from the
+ * message's own account to a creditor, to a direct debit message a collection
+ * from a debtor's account to the message's own. The "other side" below is that
+ * creditor or debtor.
  *
  * list: an array of properties that ends at the first null key. Keys compare
  *       whole and without case. A key may occur again; each value is checked
- *       and the last one counts. Unknown keys are ignored.
+ *       and the last one counts. A credit transfer ignores unknown keys, a direct
+ *       debit refuses them.
  *
  *   key          value                                            length in bytes
- *   "iban"       creditor's IBAN, required                        15 to 31
+ *   "iban"       the other side's IBAN, required                  15 to 31
  *   "amount"     euro, decimal point, rounded half up to cents,   -
  *                required
- *   "bic"        creditor's bank; required under "DE-2.6"         8 or 11
- *   "name"       creditor's name                                  1 to 70
+ *   "bic"        the other side's bank; required under "DE-2.6"   8 or 11
+ *   "name"       the other side's name                            1 to 70
  *   "ref"        unstructured remittance information              0 to 140
- *   "purp"       purpose code (ISO 20022 external code set)       4
- *   "date"       requested execution date, "yyyy-mm-dd"           10
+ *   "date"       requested execution or collection date,          10
+ *                "yyyy-mm-dd"
  *   "id"         end-to-end identification                        1 to 35
  *   "addrCC"     country, two capital letters                     2
  *   "addrLine1", "addrLine2"  address lines, not under "DE-3.7"   1 to 70
- *   under "DE-3.7" only, ignored otherwise:
+ *   under "DE-3.7" only (otherwise a direct debit refuses them):
  *   "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom"  1 to 70
  *   "addrBldg", "addrTown", "addrLoc", "addrDstrct", "addrCtrySub"    1 to 35
  *   "addrNum", "addrPoBox", "addrCode"                                1 to 16
+ *   for a credit transfer:
+ *   "purp"       purpose code (ISO 20022 external code set)       4
+ *   for a direct debit:
+ *   "seq"        sequence type, required: "FRST", "RCUR", "OOFF"  4
+ *                or "FNAL", in either case
+ *   "mref"       mandate reference                                1 to 35
+ *   "mdate"      date of the mandate's signature, "yyyy-mm-dd"    10
+ *   "old_mref"   former reference of an amended mandate           1 to 35
+ *   "old_iban"   former IBAN of the debtor                        15 to 31
+ *   "smnda"      "1": the debtor has a new account under the      1
+ *                same mandate; "old_iban" is then not written
+ *
+ * A debtor whose BIC names a SEPA country outside the European Economic Area
+ * (such as CH or GB) needs an address line under "DE-3.1" and "DE-3.5", town and
+ * country under "DE-3.7".
  *
  * Names, address lines and remittance information take the character set that
- * tivex_setName names, "id" the same without & * $ % and German letters; under
- * "AT-6" all of them also take the euro sign and ! " # ; < = > @ [ ] ^ _ { | } ~.
- * "purp" and "date" are checked for their length only and written as they stand.
+ * tivex_setName names, "id" the same without & * $ % and German letters, "mref"
+ * and "old_mref" the set of "id" without the blank, which "mref" may hold from
+ * "DE-3.0" on; under "AT-6" all of them also take the euro sign and
+ * ! " # ; < = > @ [ ] ^ _ { | } ~.
+ * "purp", "date" and "mdate" are checked for their length only, structured
+ * address parts for theirs, and "purp", "date", "mdate", "id", "mref" and
+ * "old_mref" are written without escaping.
  *
  * Returns 1, or 0 with the reason in the message's error text; then the
  * message's transactions are as before. For a null message returns 0.
  *
- * Errors ("%c" the first byte of the first character refused, "%s" the key as
- * given): "No key-value list submitted", "Out of memory", "IBAN missing",
- * "BIC missing", "Amount missing" (also for amounts that round to 0), the
- * reasons listed at tivex_setIBAN, "Invalid BIC", "Invalid BIC format",
- * "Invalid name (must be 1-70 characters)",
- * "Invalid character '%c' in creditor name", "Invalid country code",
- * "selected SEPA rulebook requires structured address data",
- * "Invalid address line 1 (must be 1-70 chars)",
- * "Invalid character '%c' in address line 1", both also for line 2,
- * "Invalid format for '%s'" (structured address),
- * "Invalid unstructured remittance information (must be 0-140 characters)",
- * "Invalid character '%c' in unstructured remittance information",
- * "Invalid purpose (must be 4 characters)", "Invalid amount",
- * "Empty amount not allowed", "Negative or zero amount not allowed",
- * "Invalid execution date (format: yyyy-mm-dd)",
- * "Invalid end-to-end ID (must be 1-35 characters)",
- * "Invalid character '%c' in end-to-end ID".
+ * Errors ("%c" the first byte of the first character refused, "%s" the key or
+ * value as given):
+ *   "No key-value list submitted", "Out of memory", "IBAN missing",
+ *   "BIC missing", "Amount missing" (also for amounts that round to 0),
+ *   "Sequence type missing", "Address required for BICs outside EEA",
+ *   "Structured address required for BICs outside EEA (at least town and country)",
+ *   the IBAN's reasons listed at tivex_setIBAN, alone,
+ *   "Invalid BIC", "Invalid BIC format", "Invalid name (must be 1-70 characters)",
+ *   "Invalid character '%c' in creditor name",
+ *   "Invalid character '%c' in debtor name", "Invalid country code",
+ *   "selected SEPA rulebook requires structured address data",
+ *   "selected SEPA rulebook does not support structured address data",
+ *   "Invalid address line 1 (must be 1-70 chars)",
+ *   "Invalid character '%c' in address line 1", both also for line 2,
+ *   "Invalid format for '%s'" (structured address),
+ *   "Invalid unstructured remittance information (must be 0-140 characters)",
+ *   "Invalid character '%c' in unstructured remittance information",
+ *   "Invalid purpose (must be 4 characters)", "Invalid amount",
+ *   "Empty amount not allowed", "Negative or zero amount not allowed",
+ *   "Invalid execution date (format: yyyy-mm-dd)",
+ *   "Invalid end-to-end ID (must be 1-35 characters)",
+ *   "Invalid character '%c' in end-to-end ID", "Invalid/unknown sequence type",
+ *   "Invalid mandate reference (must be 1-35 characters)",
+ *   "Invalid character '%c' in mandate reference",
+ *   "Invalid mandate signature date (format: yyyy-mm-dd)",
+ *   "Invalid old mandate reference (must be 1-35 characters)",
+ *   "Invalid character '%c' in old mandate reference",
+ *   "Invalid value '%s' for SMNDA flag", "Invalid transaction property '%s'".
  */
 TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
 
 /*
- * Writes the message as an ISO 20022 document in UTF-8: a pain.001 document in
- * the version that the selected rulebook prescribes (pain.001.002.03 under
- * "DE-2.6"; pain.001.003.03 under "DE-2.7" to "DE-2.9"; pain.001.001.03 under
- * "DE-3.0" to "DE-3.5", "AT-6" and "NL-6"; pain.001.001.09 under "DE-3.7").
- * Transactions stand in payment blocks, one for each execution date in
- * ascending order, and within a block in the order of adding. Header values
- * that are not set are left out, so that the host decides what its bank needs.
+ * Writes the message as an ISO 20022 document in UTF-8, a customer credit
+ * transfer initiation or a customer direct debit initiation in the version that
+ * the selected rulebook prescribes:
  *
- * A date or message identifier that is not set is filled in and kept: today's
- * local date, and "SEPA-", local time and seven digits from the process
- * identifier and a process-wide counter. A message may be written repeatedly.
+ *   rulebook                       credit transfer   direct debit
+ *   "DE-2.6"                       pain.001.002.03   pain.008.002.02
+ *   "DE-2.7" to "DE-2.9"           pain.001.003.03   pain.008.003.02
+ *   "DE-3.0" to "DE-3.5",          pain.001.001.03   pain.008.001.02
+ *   "AT-6", "NL-6"
+ *   "DE-3.7"                       pain.001.001.09   pain.008.001.08
+ *
+ * Transactions stand in payment blocks, one for each date in ascending order and,
+ * of direct debits, for each sequence type in the order FRST, RCUR, OOFF, FNAL;
+ * within a block they stand in the order of adding. A credit transfer is written
+ * with the header values that are set, so that the host decides what its bank
+ * needs; a direct debit needs IBAN, BIC, name, creditor identifier and a
+ * transaction, and a mandate's reference or date that is not given is left out.
+ *
+ * A date or message identifier that is not set is filled in and kept, also when
+ * the document is then refused: today's local date, and "SEPA-", local time and
+ * seven digits from the process identifier and a process-wide counter. A message
+ * may be written repeatedly.
  *
  * Returns a new NUL-terminated text that the host owns and releases with the C
  * run-time's free() (it holds account data: overwrite it first where that
  * matters), or null with the reason in the message's error text. For a null
- * message, and for direct debit messages so far, returns null.
+ * message returns null.
  *
- * Errors: "malloc() failed", "cti_toXML: strdup() failed", "Out of memory",
- * "unknown/unsupported SEPA rulebook selected". When memory is exhausted the
- * error text may stay as it was.
+ * Errors: "malloc() failed", "cti_toXML: strdup() failed",
+ * "ddi_toXML: strdup() failed", "Out of memory",
+ * "unknown/unsupported SEPA rulebook selected"; of a direct debit also
+ * "Missing creditor IBAN", "Missing creditor BIC", "Missing creditor name",
+ * "Missing creditor identifier", "No transactions available" and
+ * "Unknown/unsupported LocalInstrumentCode (setDDType)" (COR1 from "DE-3.0" on).
+ * When memory is exhausted the error text may stay as it was.
  */
 TIVEX_API char *tivex_toXML(tivex_t *msg);
 

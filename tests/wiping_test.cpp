@@ -28,6 +28,8 @@ TEST(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
                           {"addrStreet", wide.c_str()}}),
                 1);
     }
+    const message_ptr debit = new_message(TIVEX_DIRECT_DEBIT, "DE-3.7");
+    ASSERT_EQ(add(debit, with(collection, {{"mref", secret}, {"old_iban", secret}})), 1);
     // A half-built record, an error text in the message, a document that grows
     // through several blocks and one that is given up.
     EXPECT_EQ(add(msg, {{"ref", secret}, {"iban", "NO"}}), 0);

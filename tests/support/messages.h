@@ -39,6 +39,10 @@ inline int add(const message_ptr& msg, pairs list) {
 inline const pairs payment = {
     {"iban", "AT611904300234573201"}, {"bic", "BKAUATWW"}, {"amount", "12.50"}};
 
+// The same for a direct debit.
+inline const pairs collection = {
+    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWW"}, {"amount", "12.50"}, {"seq", "RCUR"}};
+
 inline pairs with(pairs list, pairs more) {
   list.insert(list.end(), more.begin(), more.end());
   return list;

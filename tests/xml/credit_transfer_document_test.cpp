@@ -1,19 +1,11 @@
 // Credit transfer documents, byte for byte and rulebook by rulebook.
 
-#include <fstream>
-#include <iterator>
-
+#include "support/files.h"
 #include "support/messages.h"
 #include "support/runtime_control.h"
 #include "transactions/credit_transfer.h"
 
 namespace {
-
-std::string file(const std::string& name) {
-  std::ifstream stream(TIVEX_TEST_DATA "/" + name, std::ios::binary);
-  EXPECT_TRUE(stream) << name;
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
 
 // Everything that a message can say, for the documents in tests/data.
 message_ptr complete_message(const char* rulebook) {
@@ -58,8 +50,8 @@ std::string complete_document(const char* rulebook) {
 }  // namespace
 
 TEST(CreditTransferDocument, IsWrittenByteForByte) {
-  EXPECT_EQ(complete_document("DE-3.7"), file("credit_transfer_de37.xml"));
-  EXPECT_EQ(complete_document("DE-2.6"), file("credit_transfer_de26.xml"));
+  EXPECT_EQ(complete_document("DE-3.7"), test_data("credit_transfer_de37.xml"));
+  EXPECT_EQ(complete_document("DE-2.6"), test_data("credit_transfer_de26.xml"));
 }
 
 TEST(CreditTransferDocument, FollowsTheRulebook) {
@@ -75,7 +67,7 @@ TEST(CreditTransferDocument, FollowsTheRulebook) {
       {"DE-3.5", "pain.001.001.03", true},
   };
   // All but one differ in the start tag only.
-  const std::string model = file("credit_transfer_de26.xml");
+  const std::string model = test_data("credit_transfer_de26.xml");
   const std::string rest = model.substr(model.find("\t<CstmrCdtTrfInitn>"));
   for (const auto& row : rows) {
     const std::string space = std::string("urn:iso:std:iso:20022:tech:xsd:") + row.version;
