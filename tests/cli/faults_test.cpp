@@ -11,11 +11,12 @@ struct fault_case {
   std::string csv;
   std::string errors;
   std::string rulebook = "DE-3.7";
+  std::string command = transfer;
 };
 
 void expect_faults(std::initializer_list<fault_case> cases) {
   for (const fault_case& c : cases) {
-    const std::string line = transfer + "--rulebook " + c.rulebook + " -";
+    const std::string line = c.command + "--rulebook " + c.rulebook + " -";
     const program_result result = run(line, with_ibans(c.csv));
     EXPECT_EQ(result.status, 1) << c.csv;
     EXPECT_EQ(result.output, "") << c.csv;
@@ -71,6 +72,29 @@ TEST(Faults, OfRowsNameLineAndKey) {
        "-:2: date: date not of the form yyyy-mm-dd\n"
        "-:3: date: date not of the form yyyy-mm-dd\n",
        "AT-6"},
+  });
+}
+
+TEST(Faults, OfCollectionsNameLineAndKey) {
+  const std::string header = "iban,amount,seq,bic,mref,mdate,addrLine1\n";
+  const std::string swiss = "@,1,RCUR,ZKBKCHZZ80A,";
+  expect_faults({
+      {header + "@,1,LAST,,,,\n@,1,,,,,\n@,,RCUR,,,,\n",
+       "-:2: seq: Invalid/unknown sequence type\n-:3: seq: Sequence type missing\n"
+       "-:4: amount: Amount missing\n",
+       "DE-3.5", debit},
+      {header + swiss + ",,x\n" + swiss + ",,\n" + swiss + "M&1,,x\n" + swiss + ",2026-1-011,x\n",
+       "-:3: addrLine1: Address required for BICs outside EEA\n"
+       "-:4: mref: character '&' not allowed\n-:5: mdate: date not of the form yyyy-mm-dd\n",
+       "DE-3.5", debit},
+      {header + swiss + ",,\n",
+       "-:2: addrTown: Structured address required for BICs outside EEA (at least town and "
+       "country)\n",
+       "DE-3.7", debit},
+      {"iban,amount,seq,smnda,mrf\n", "-:1: unknown column 'mrf' (did you mean 'mref'?)\n",
+       "DE-3.7", debit},
+      {"iban,amount,seq,smnda\n@,1,RCUR,x\n", "-:2: smnda: Invalid value 'x' for SMNDA flag\n",
+       "DE-3.7", debit},
   });
 }
 

@@ -17,6 +17,10 @@ program_result run(const std::string& line, const std::string& input = {});
 inline const std::string transfer =
     "tivex credit-transfer --name 'Beispiel GmbH' --iban DE89370400440532013000 --date 2026-11-27 ";
 
+inline const std::string debit =
+    "tivex direct-debit --name 'Beispiel GmbH' --iban DE89370400440532013000 --bic COBADEFFXXX "
+    "--creditor-id DE98ZZZ09999999999 --date 2026-12-01 ";
+
 // Returns the text with each @ replaced by a good IBAN.
 std::string with_ibans(std::string text);
 

@@ -30,6 +30,11 @@ TEST(Usage, WrongArgumentsEndWithStatus2) {
        "--iban: Invalid IBAN checksum (DE88370400440532013000)\n"},
       {"tivex credit-transfer --name A --iban DE89370400440532013000 --date '2026-11-<b' -",
        "--date: date not of the form yyyy-mm-dd\n"},
+      {"tivex direct-debit --name A --iban DE89370400440532013000 --bic COBADEFFXXX -",
+       "--creditor-id"},
+      {debit + "--creditor-id DE99ZZZ09999999999 -", "--creditor-id"},
+      {debit + "--type CORE1 -", "--type: unknown type 'CORE1' (known: CORE, COR1, B2B)\n"},
+      {debit + "--type COR1 -", "--type: COR1 is not allowed with selected SEPA rulebook\n"},
       {"tivex credit-transfer --name M\xFCller --iban DE89370400440532013000 -",
        "--name: byte 0xFC is not UTF-8\n"},
   };
@@ -45,7 +50,7 @@ TEST(Usage, VersionAndHelpSucceed) {
   const program_result version = run("tivex --version");
   EXPECT_EQ(version.status, 0);
   EXPECT_EQ(version.output, "tivex " TIVEX_VERSION_STR "\n");
-  for (const std::string command : {"credit-transfer", "iban", "iban check"}) {
+  for (const std::string command : {"credit-transfer", "direct-debit", "iban", "iban check"}) {
     const program_result help = run("tivex " + command + " --help");
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(contains(help.output, "Example:\n  tivex " + command)) << help.output;
@@ -59,6 +64,12 @@ TEST(Usage, OptionsReachTheDocument) {
     EXPECT_TRUE(contains(written.output, part)) << part;
   }
   EXPECT_TRUE(contains(run(transfer + "-", csv).output, "<BtchBookg>true<"));
+  const std::string collection = with_ibans("iban,amount,seq,mref\n@,1,rcur,M 1\n");
+  const auto collected = run(debit + "--type B2B -", collection);
+  for (const char* part : {"<Cd>B2B<", "<Id>DE98ZZZ09999999999<", "<BICFI>COBADEFFXXX<",
+                           "<ReqdColltnDt>2026-12-01<", "<SeqTp>RCUR<", "<MndtId>M 1<"}) {
+    EXPECT_TRUE(contains(collected.output, part)) << part;
+  }
 }
 
 }  // namespace
