@@ -53,8 +53,8 @@ void write_group_header(document_writer& out, const message& msg, std::time_t mo
   write_party(out, "InitgPty", msg.name);
 }
 
-void write_payment_start(document_writer& out, const message& msg, const char* method, int number,
-                         std::uint32_t count, double sum) {
+void write_payment_start(document_writer& out, const message& msg, std::string_view method,
+                         int number, std::uint32_t count, double sum) {
   write_payment_id(out, msg, number);
   out.fixed("PmtMtd", method);
   out.fixed("BtchBookg", msg.batch_booking == 1 ? "true" : "false");

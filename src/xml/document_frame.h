@@ -34,8 +34,8 @@ void write_group_header(document_writer& out, const message& msg, std::time_t mo
 
 // The elements that payment blocks begin with. `method` is the payment method;
 // blocks are numbered from 1.
-void write_payment_start(document_writer& out, const message& msg, const char* method, int number,
-                         std::uint32_t count, double sum);
+void write_payment_start(document_writer& out, const message& msg, std::string_view method,
+                         int number, std::uint32_t count, double sum);
 
 void write_service_level(document_writer& out);
 

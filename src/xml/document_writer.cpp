@@ -10,33 +10,34 @@ constexpr std::string_view tabs = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
 
 }  // namespace
 
-const char* document_writer::indent() const {
-  return tabs.data() + tabs.size() - static_cast<std::size_t>(depth_);
+std::string_view document_writer::indent() const {
+  return {tabs.data(), static_cast<std::size_t>(depth_)};
 }
 
-void document_writer::append(failure kind, std::initializer_list<const char*> texts) {
+void document_writer::append(failure kind, std::initializer_list<std::string_view> texts) {
   if (failure_ == failure::none && !xml_buffer_append_list(out_, texts)) failure_ = kind;
 }
 
-void document_writer::open(const char* name, const char* attributes) {
+void document_writer::open(std::string_view name, std::string_view attributes) {
   append(failure::of_markup, {indent(), "<", name, attributes, ">\n"});
   ++depth_;
 }
 
-void document_writer::close(const char* name) {
+void document_writer::close(std::string_view name) {
   --depth_;
   append(failure::of_markup, {indent(), "</", name, ">\n"});
 }
 
-void document_writer::fixed(const char* name, const char* content) {
+void document_writer::fixed(std::string_view name, std::string_view content) {
   append(failure::of_markup, {indent(), "<", name, ">", content, "</", name, ">\n"});
 }
 
-void document_writer::value(const char* name, const char* content, const char* attributes) {
+void document_writer::value(std::string_view name, std::string_view content,
+                            std::string_view attributes) {
   append(failure::of_value, {indent(), "<", name, attributes, ">", content, "</", name, ">\n"});
 }
 
-void document_writer::escaped(const char* name, const char* content) {
+void document_writer::escaped(std::string_view name, const char* content) {
   append(failure::of_markup, {indent(), "<", name, ">"});
   if (failure_ == failure::none && !xml_buffer_append_escaped(out_, content)) {
     failure_ = failure::of_value;
@@ -44,11 +45,11 @@ void document_writer::escaped(const char* name, const char* content) {
   append(failure::of_markup, {"</", name, ">\n"});
 }
 
-void document_writer::optional_value(const char* name, const owned_text& content) {
+void document_writer::optional_value(std::string_view name, const owned_text& content) {
   if (content) value(name, content.c_str());
 }
 
-void document_writer::optional_escaped(const char* name, const owned_text& content) {
+void document_writer::optional_escaped(std::string_view name, const owned_text& content) {
   if (content) escaped(name, content.c_str());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <string_view>
 
 #include "core/message.h"
 #include "xml/xml_buffer.h"
@@ -17,20 +18,20 @@ class document_writer {
 
   // A start tag with attributes in place, and its end tag; `element` below pairs
   // them.
-  void open(const char* name, const char* attributes = "");
-  void close(const char* name);
+  void open(std::string_view name, std::string_view attributes = "");
+  void close(std::string_view name);
 
   // An element whose content belongs to the document's form.
-  void fixed(const char* name, const char* content);
+  void fixed(std::string_view name, std::string_view content);
 
   // An element with a value, as it stands or escaped. An attribute, if any,
   // follows the name in the start tag only.
-  void value(const char* name, const char* content, const char* attributes = "");
-  void escaped(const char* name, const char* content);
+  void value(std::string_view name, std::string_view content, std::string_view attributes = "");
+  void escaped(std::string_view name, const char* content);
 
   // The same, left out when the host has not given the value.
-  void optional_value(const char* name, const owned_text& content);
-  void optional_escaped(const char* name, const owned_text& content);
+  void optional_value(std::string_view name, const owned_text& content);
+  void optional_escaped(std::string_view name, const owned_text& content);
 
   // Whether all was written; if not because a value did not fit, the message
   // says so.
@@ -40,10 +41,10 @@ class document_writer {
   enum class failure { none, of_markup, of_value };
 
   // The tabs before a line.
-  const char* indent() const;
+  std::string_view indent() const;
   // Appends texts in turn unless something has failed; `kind` is what a failure
   // now would be.
-  void append(failure kind, std::initializer_list<const char*> texts);
+  void append(failure kind, std::initializer_list<std::string_view> texts);
 
   xml_buffer_t& out_;
   int depth_ = 0;
@@ -53,7 +54,7 @@ class document_writer {
 // An element that holds others: open as long as this object lives.
 class element {
  public:
-  element(document_writer& out, const char* name, const char* attributes = "")
+  element(document_writer& out, std::string_view name, std::string_view attributes = "")
       : out_(out), name_(name) {
     out_.open(name, attributes);
   }
@@ -63,7 +64,7 @@ class element {
 
  private:
   document_writer& out_;
-  const char* name_;
+  std::string_view name_;
 };
 
 }  // namespace tivex

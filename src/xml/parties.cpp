@@ -10,7 +10,7 @@ namespace tivex {
 namespace {
 
 struct address_element {
-  const char* name;
+  std::string_view name;
   owned_text transaction::*value;
 };
 
@@ -49,20 +49,20 @@ void write_end_to_end_id(document_writer& out, const transaction& tx) {
   out.value("EndToEndId", tx.end_to_end_id ? tx.end_to_end_id.c_str() : "NOTPROVIDED");
 }
 
-void write_account(document_writer& out, const char* element_name, const owned_text& iban) {
+void write_account(document_writer& out, std::string_view element_name, const owned_text& iban) {
   const element account(out, element_name);
   const element id(out, "Id");
   out.optional_value("IBAN", iban);
 }
 
-void write_agent(document_writer& out, const char* element_name, const document_schema& schema,
+void write_agent(document_writer& out, std::string_view element_name, const document_schema& schema,
                  const owned_text& bic) {
   const element agent(out, element_name);
   const element institution(out, "FinInstnId");
   out.optional_value(schema.bic_element, bic);
 }
 
-void write_party(document_writer& out, const char* element_name, const owned_text& name) {
+void write_party(document_writer& out, std::string_view element_name, const owned_text& name) {
   const element party(out, element_name);
   out.optional_escaped("Nm", name);
 }

@@ -1,6 +1,8 @@
 // The elements that name payments, accounts, banks and parties.
 #pragma once
 
+#include <string_view>
+
 #include "transactions/transaction.h"
 #include "xml/document_writer.h"
 #include "xml/schema.h"
@@ -10,14 +12,14 @@ namespace tivex {
 // The identification that the other side receives; NOTPROVIDED when there is none.
 void write_end_to_end_id(document_writer& out, const transaction& tx);
 
-void write_account(document_writer& out, const char* element_name, const owned_text& iban);
+void write_account(document_writer& out, std::string_view element_name, const owned_text& iban);
 
 // A bank by its BIC; without one its element stays empty.
-void write_agent(document_writer& out, const char* element_name, const document_schema& schema,
+void write_agent(document_writer& out, std::string_view element_name, const document_schema& schema,
                  const owned_text& bic);
 
 // A party of which nothing but the name is told, if that.
-void write_party(document_writer& out, const char* element_name, const owned_text& name);
+void write_party(document_writer& out, std::string_view element_name, const owned_text& name);
 
 // The postal address of the other side, when there is one to write: country,
 // town or an address line.

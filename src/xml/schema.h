@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace tivex {
 
@@ -9,9 +10,9 @@ namespace tivex {
 struct document_schema {
   const char* credit_transfer;
   const char* direct_debit;
-  bool has_location;        // whether the document names the schema's file
-  const char* bic_element;  // within FinInstnId
-  bool smnda_on_account;    // where a change of the debtor's account is marked, else on the agent
+  bool has_location;             // whether the document names the schema's file
+  std::string_view bic_element;  // within FinInstnId
+  bool smnda_on_account;  // where a change of the debtor's account is marked, else on the agent
 };
 
 // The schema of the rulebook with a number; null when there is none.

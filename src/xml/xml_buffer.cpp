@@ -85,12 +85,13 @@ void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes) {
   if (size > buf.allocated) move_to_block(buf, size);
 }
 
-bool xml_buffer_append(xml_buffer_t& buf, const char* text) {
-  if (text == nullptr) return true;
-  const std::size_t size = std::strlen(text) + 1;
-  if (!xml_buffer_reserve(buf, size)) return false;
-  std::memcpy(end_of_text(buf), text, size);
-  buf.length += static_cast<std::uint32_t>(buf.length > 0 ? size - 1 : size);
+bool xml_buffer_append(xml_buffer_t& buf, std::string_view text) {
+  if (text.data() == nullptr) return true;
+  if (!xml_buffer_reserve(buf, text.size() + 1)) return false;
+  char* const out = end_of_text(buf);
+  std::memcpy(out, text.data(), text.size());
+  out[text.size()] = '\0';
+  buf.length = static_cast<std::uint32_t>(out + text.size() + 1 - buf.data);
   return true;
 }
 
@@ -115,9 +116,9 @@ bool xml_buffer_append_escaped(xml_buffer_t& buf, const char* text) {
   return true;
 }
 
-bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<const char*> texts) {
-  for (const char* const text : texts) {
-    if (text == nullptr) break;
+bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<std::string_view> texts) {
+  for (const std::string_view text : texts) {
+    if (text.data() == nullptr) break;
     if (!xml_buffer_append(buf, text)) return false;
   }
   return true;

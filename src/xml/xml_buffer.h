@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
+#include <string_view>
 
 namespace tivex {
 
@@ -36,14 +37,14 @@ bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need);
 // Says how long the text will be, roughly; nothing depends on it but speed.
 void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes);
 
-// Each appends a text and returns false when it did not fit; null appends
-// nothing. The last writes "<", ">" and "&" as entities.
-bool xml_buffer_append(xml_buffer_t& buf, const char* text);
+// Each appends a text and returns false when it did not fit; a null text (a view
+// of nothing) appends nothing. The last writes "<", ">" and "&" as entities.
+bool xml_buffer_append(xml_buffer_t& buf, std::string_view text);
 bool xml_buffer_append_escaped(xml_buffer_t& buf, const char* text);
 
 // Appends texts in turn up to the first null; stops and returns false at the
 // first that does not fit, and those before it stay.
-bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<const char*> texts);
+bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<std::string_view> texts);
 
 // Hands the text over to the caller, who releases it with free().
 char* xml_buffer_take(xml_buffer_t& buf);

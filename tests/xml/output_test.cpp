@@ -51,13 +51,13 @@ TEST(XmlBuffer, HoldsWhatWasAppendedAtEveryStep) {
 
 TEST(XmlBuffer, AppendsNothingForNull) {
   const xml_buffer_ptr buf(xml_buffer_new());
-  EXPECT_TRUE(xml_buffer_append(*buf, nullptr));
+  EXPECT_TRUE(xml_buffer_append(*buf, {}));
   EXPECT_TRUE(xml_buffer_append_escaped(*buf, nullptr));
   EXPECT_TRUE(xml_buffer_append_list(*buf, {}));
   EXPECT_EQ(buf->length, 0u);
   EXPECT_TRUE(xml_buffer_append_escaped(*buf, ""));
   EXPECT_EQ(buf->length, 1u);
-  EXPECT_TRUE(xml_buffer_append_list(*buf, {"<a>", "1", nullptr, "</a>"}));
+  EXPECT_TRUE(xml_buffer_append_list(*buf, {"<a>", "1", {}, "</a>"}));
   EXPECT_STREQ(buf->data, "<a>1");
   EXPECT_TRUE(xml_buffer_append_escaped(*buf, "&amp;<>"));
   EXPECT_STREQ(buf->data, "<a>1&amp;amp;&lt;&gt;");
