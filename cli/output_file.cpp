@@ -37,7 +37,8 @@ std::string follow_links(std::string path) {
     const std::string next(target, static_cast<std::size_t>(length));
     const std::size_t slash = path.rfind('/');
     const bool beside = next[0] != '/' && slash != std::string::npos;
-    path = beside ? path.substr(0, slash + 1) + next : next;
+    path.resize(beside ? slash + 1 : 0);
+    path += next;
   }
   return path;
 }

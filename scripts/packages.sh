@@ -15,6 +15,8 @@ install_packages() {
     apt-get install --quiet=2 --yes --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# shellcheck disable=SC2034 # the lists are for those who source this file
 build_packages=(g++ cmake make libcli11-dev libcsv-dev)
+# shellcheck disable=SC2034
 test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 libbenchmark-dev
   libclang-rt-14-dev libgtest-dev libxml2-utils pkgconf shellcheck)

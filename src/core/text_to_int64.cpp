@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "core/ascii.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

@@ -5,11 +5,11 @@
 #include <span>
 #include <utility>
 
-#include "core/ascii.h"
 #include "core/rulebook.h"
 #include "transactions/address_fields.h"
 #include "transactions/key_rules.h"
 #include "transactions/transaction.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

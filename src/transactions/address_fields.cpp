@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/ascii.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/ascii.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

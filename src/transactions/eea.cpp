@@ -3,7 +3,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "core/ascii.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "core/ascii.h"
 #include "core/rulebook.h"
 #include "transactions/charset.h"
+#include "validation/ascii.h"
 #include "validation/bic_text.h"
 #include "validation/format_check.h"
 #include "validation/iban.h"

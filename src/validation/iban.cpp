@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "core/ascii.h"
 #include "tivex.h"
+#include "validation/ascii.h"
 #include "validation/iban_countries.h"
 #include "validation/mod97.h"
 #include "validation/patterns.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "core/ascii.h"
+#include "validation/ascii.h"
 
 namespace tivex {
 

@@ -44,7 +44,7 @@ TEST(Format, TextKindsLimitTheLength) {
 
 TEST(Format, FailsForEveryKindUntilThePatternCompiles) {
   tivex_cleanup();
-  for (const std::size_t n : {1, 2}) {
+  for (std::size_t n = 1; n <= 2; ++n) {
     const runtime_control::failing_allocation failing(n);
     EXPECT_FALSE(format_check(FORMAT_TEXT70, "x"));
   }
