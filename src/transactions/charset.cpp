@@ -44,7 +44,7 @@ bool begins_with(const char* text, std::string_view sequence) {
 // How many bytes the character at `text` takes; 0 when it is not admitted.
 std::size_t admitted_bytes(const char* text, int level, bool wide_punctuation) {
   const std::uint8_t lowest = byte_levels[static_cast<unsigned char>(*text)];
-  if (lowest <= level && lowest < wide) return 1;
+  if (lowest <= level) return 1;
   if (level >= CHARSET_TEXT) {
     for (const std::string_view letter : german_letters) {
       if (begins_with(text, letter)) return letter.size();

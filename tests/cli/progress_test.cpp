@@ -1,12 +1,11 @@
 // The progress line: standard error is a terminal, the input comes as it is fed.
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <pty.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdio>
 
 #include "program.h"
 
@@ -15,36 +14,29 @@ namespace {
 class terminal_run {
  public:
   terminal_run() {
-    int input[2];
-    if (pipe2(input, O_CLOEXEC) != 0) std::abort();
-    if (forkpty(&terminal_, nullptr, nullptr, nullptr) == 0) {
-      dup2(input[0], 0);
-      dup2(open("/dev/null", O_WRONLY), 1);
-      execl(TIVEX_PROGRAM, "tivex", "credit-transfer", "--name", "A", "--iban",
-            "DE89370400440532013000", "-", nullptr);
-      _exit(127);
-    }
-    close(input[0]);
-    input_ = input[1];
+    char name[256];
+    if (openpty(&terminal_, &program_end_, name, nullptr, nullptr) != 0) std::abort();
+    const std::string line =
+        "'" TIVEX_PROGRAM "' credit-transfer --name A --iban DE89370400440532013000 - 2>";
+    input_ = popen((line + name + " >/dev/null").c_str(), "w");
   }
-  ~terminal_run() {
-    close(terminal_);
-    wait(nullptr);
-  }
+  ~terminal_run() { close(terminal_); }
 
   void feed(const std::string& text) {
-    EXPECT_EQ(write(input_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+    EXPECT_GT(std::fputs(text.c_str(), input_), 0);
+    EXPECT_EQ(std::fflush(input_), 0);
   }
   // Returns what appears within the time, or up to the end.
   std::string watch(int milliseconds) {
-    std::string seen(4096, '\0');
+    char seen[4096];
     pollfd terminal{terminal_, POLLIN, 0};
     if (poll(&terminal, 1, milliseconds) <= 0) return {};
-    const ssize_t count = read(terminal_, seen.data(), seen.size());
-    return seen.substr(0, count < 0 ? 0 : static_cast<std::size_t>(count));
+    const ssize_t count = read(terminal_, seen, sizeof seen);
+    return {seen, count < 0 ? 0 : static_cast<std::size_t>(count)};
   }
   std::string finish() {
-    close(input_);
+    EXPECT_EQ(pclose(input_), 0);
+    close(program_end_);
     std::string screen;
     for (std::string seen; !(seen = watch(-1)).empty();) screen += seen;
     return screen;
@@ -52,7 +44,8 @@ class terminal_run {
 
  private:
   int terminal_ = -1;
-  int input_ = -1;
+  int program_end_ = -1;
+  FILE* input_ = nullptr;
 };
 
 TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {

@@ -4,9 +4,10 @@
 #include <regex.h>
 #include <sys/types.h>
 
-#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <optional>
 #include <string_view>
 
@@ -51,14 +52,9 @@ failing_allocation::~failing_allocation() {
 bool failing_allocation::happened() const { return failure_happened; }
 
 fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int second) {
-  std::tm parts = {};
-  parts.tm_year = year - 1900;
-  parts.tm_mon = month - 1;
-  parts.tm_mday = day;
-  parts.tm_hour = hour;
-  parts.tm_min = minute;
-  parts.tm_sec = second;
-  clock_moment = timegm(&parts);
+  const std::chrono::sys_days date = std::chrono::year(year) / month / day;
+  clock_moment =
+      date.time_since_epoch() / std::chrono::seconds(1) + hour * 3600 + minute * 60 + second;
 }
 fixed_clock::~fixed_clock() { clock_moment.reset(); }
 
@@ -80,7 +76,7 @@ released_text_watch::released_text_watch(std::string text) {
   watched_text = std::move(text);
 }
 released_text_watch::~released_text_watch() { watched_text.clear(); }
-std::size_t released_text_watch::blocks_released() const { return watched_blocks; }
+std::size_t released_text_watch::blocks() const { return watched_blocks; }
 std::size_t released_text_watch::blocks_with_text() const { return watched_blocks_with_text; }
 
 }  // namespace runtime_control
