@@ -6,7 +6,6 @@
 #include "support/runtime_control.h"
 #include "support/table.h"
 #include "transactions/credit_transfer.h"
-#include "transactions/direct_debit.h"
 
 namespace {
 
@@ -26,11 +25,6 @@ void expect_outcome(int type, const std::string& rulebook, const row& columns) {
   if (function.starts_with("set")) {
     EXPECT_EQ(call(nullptr, function, columns[3].c_str()), 0);
   }
-}
-
-template <class record>
-const record& last_of(const message_ptr& msg) {
-  return static_cast<const record&>(*msg->last);
 }
 
 }  // namespace
@@ -79,7 +73,7 @@ TEST(Calls, KeepTheEarlierValueUnlessItsSuccessorCannotBeCopied) {
   EXPECT_EQ(msg->batch_booking, 0);
 }
 
-TEST(Calls, StoreWhatTransactionsSay) {
+TEST(Calls, TakeTheLastValueOfAKeyAndAddUp) {
   const message_ptr transfer = new_message(TIVEX_CREDIT_TRANSFER, "DE-3.5");
   ASSERT_EQ(add(transfer, {{"NAME", "Eva"}, {"name", "Adam"}, {"AMOUNT", "0.1"}}), 1);
   EXPECT_STREQ(transfer->last->name.c_str(), "Adam") << "the last value counts";
@@ -87,13 +81,6 @@ TEST(Calls, StoreWhatTransactionsSay) {
     ASSERT_EQ(add(transfer, {{"amount", amount}}), 1);
   EXPECT_DOUBLE_EQ(transfer->control_sum, 12.65);
   EXPECT_EQ(tivex::first_transaction<tivex::ct_transaction>(*transfer)->next->amount, 0.2);
-
-  const message_ptr debit = new_message(TIVEX_DIRECT_DEBIT);
-  const char* const names[] = {"frst", "RCUR", "Ooff", "FNAL"};
-  for (int index = 0; index < 4; ++index) {
-    ASSERT_EQ(add(debit, {{"seq", names[index]}}), 1);
-    EXPECT_EQ(last_of<tivex::dd_transaction>(debit).sequence_type, index + 1);
-  }
 }
 
 TEST(Calls, NeedAListAndAMessage) {

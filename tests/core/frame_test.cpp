@@ -4,6 +4,7 @@
 
 #include "support/messages.h"
 #include "support/runtime_control.h"
+#include "support/table.h"
 
 using runtime_control::fixed_clock;
 using runtime_control::fixed_zone;
@@ -22,26 +23,13 @@ TEST(Rulebook, IsSelectedByItsExactName) {
 }
 
 TEST(Rulebook, DefaultFollowsTheLocalDateOfTheFirstMessage) {
-  constexpr int old = tivex::RULEBOOK_DE_3_5;
-  constexpr int current = tivex::RULEBOOK_DE_3_7;
-  const struct {
-    int year, month, day, hour;
-    const char* zone;
-    int expected;
-  } rows[] = {{2023, 12, 31, 12, "UTC", old},
-              {2024, 1, 31, 12, "UTC", old},
-              {2024, 4, 16, 12, "UTC", old},
-              {2024, 4, 17, 0, "UTC", current},
-              {2024, 5, 1, 12, "UTC", current},
-              {2025, 1, 1, 0, "UTC", current},
-              {2024, 4, 16, 23, "CET-1CEST", current},  // the 17th there
-              {2024, 4, 17, 3, "EST5", old}};           // still the 16th
-  for (const auto& row : rows) {
-    const fixed_zone zone(row.zone);
-    const fixed_clock clock(row.year, row.month, row.day, row.hour);
+  for (const row& r : read_table("default_rulebooks.tsv", 6)) {
+    const auto number = [&r](std::size_t column) { return std::stoi(r[column].str()); };
+    const fixed_zone zone(r[4].c_str());
+    const fixed_clock clock(number(0), number(1), number(2), number(3));
     tivex::rulebook = tivex::RULEBOOK_NONE;
     EXPECT_EQ(tivex_new(3), nullptr) << "a refused type selects it too";
-    EXPECT_EQ(tivex::rulebook, row.expected) << row.year << "-" << row.month << "-" << row.day;
+    EXPECT_EQ(all_rulebooks.at(static_cast<std::size_t>(tivex::rulebook)), r[5].str());
   }
   const fixed_clock later(2030, 1, 1);
   const message_ptr msg(tivex_new(TIVEX_CREDIT_TRANSFER));

@@ -15,6 +15,14 @@ message_ptr new_message(int type, const std::string& rulebook) {
   return message_ptr(tivex_new(type));
 }
 
+message_ptr with_header(message_ptr msg) {
+  const bool filled = msg && tivex_setName(msg.get(), "Name") == 1 &&
+                      tivex_setIBAN(msg.get(), "NO9386011117947") == 1 &&
+                      tivex_setBIC(msg.get(), "DEUTDEFF") == 1 &&
+                      tivex_setCreditorIdentifier(msg.get(), "DE98ZZZ09999999999") == 1;
+  return filled ? std::move(msg) : nullptr;
+}
+
 int add_alone(const message_ptr& msg, pairs list) {
   list.push_back({nullptr, nullptr});
   return tivex_add(msg.get(), list.data());

@@ -19,6 +19,9 @@ extern const std::vector<std::string> all_rulebooks;
 
 message_ptr new_message(int type, const std::string& rulebook = "DE-3.7");
 
+// The message with all header values set, or null when one of them was refused.
+message_ptr with_header(message_ptr msg);
+
 using pairs = std::vector<tivex_keyvalue_t>;
 
 // Adds what the message's type needs under every rulebook, then `more`, which

@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cmath>
-#include <string_view>
 
 #include "core/text_to_int64.h"
 #include "support/messages.h"
@@ -15,20 +14,19 @@
 #include "transactions/eea.h"
 
 TEST(Charset, AdmitsSingleBytesByLevelAndRulebook) {
-  const auto has = [](std::string_view set, char c) { return set.find(c) != set.npos; };
   for (const std::string& rulebook : all_rulebooks) {
     ASSERT_EQ(tivex_init(3, rulebook.c_str()), 1);
-    for (int tested = 0; tested < 3 * 255; ++tested) {
-      const int level = tested / 255;
-      const char c = static_cast<char>(tested % 255 + 1);
-      const bool alphanumeric =
-          (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
-      const bool expected = alphanumeric || has("':?,-()+/.", c) || (c == ' ' && level >= 1) ||
-                            (has("&*$%", c) && level == 2 && rulebook != "DE-2.6") ||
-                            (has("!\"#;<=>@[]^_{|}~", c) && rulebook == "AT-6");
-      const char text[] = {c, '\0'};
-      EXPECT_EQ(tivex::charset_check(text, nullptr, level), expected)
-          << rulebook << " level " << level << " byte " << tested % 255 + 1;
+    std::string admitted =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789':?,-()+/.";
+    if (rulebook == "AT-6") admitted += "!\"#;<=>@[]^_{|}~";
+    for (const int level : {0, 1, 2}) {
+      if (level == 1) admitted += ' ';
+      if (level == 2 && rulebook != "DE-2.6") admitted += "&*$%";
+      for (int byte = 1; byte < 256; ++byte) {
+        const char text[] = {static_cast<char>(byte), '\0'};
+        EXPECT_EQ(tivex::charset_check(text, nullptr, level), admitted.find(text) != admitted.npos)
+            << rulebook << " level " << level << " byte " << byte;
+      }
     }
   }
 }
