@@ -14,8 +14,7 @@
 namespace {
 
 std::string live(const std::string& table, const std::string& rulebook) {
-  const runtime_control::fixed_zone zone("CET-2");
-  const runtime_control::fixed_clock clock(2024, 4, 17, 7, 30, 5);
+  const runtime_control::fixed_clock clock(2024, 4, 17, 7, 30, 5, "CET-2");
   const runtime_control::fixed_process_id process(123);
   tivex::msgid_counter = 45;
   message_ptr msg;

@@ -7,7 +7,6 @@
 #include "support/table.h"
 
 using runtime_control::fixed_clock;
-using runtime_control::fixed_zone;
 
 TEST(Rulebook, IsSelectedByItsExactName) {
   for (std::size_t number = 0; number < all_rulebooks.size(); ++number) {
@@ -25,8 +24,7 @@ TEST(Rulebook, IsSelectedByItsExactName) {
 TEST(Rulebook, DefaultFollowsTheLocalDateOfTheFirstMessage) {
   for (const row& r : read_table("default_rulebooks.tsv", 6)) {
     const auto number = [&r](std::size_t column) { return std::stoi(r[column].str()); };
-    const fixed_zone zone(r[4].c_str());
-    const fixed_clock clock(number(0), number(1), number(2), number(3));
+    const fixed_clock clock(number(0), number(1), number(2), number(3), 0, 0, r[4].c_str());
     tivex::rulebook = tivex::RULEBOOK_NONE;
     EXPECT_EQ(tivex_new(3), nullptr) << "a refused type selects it too";
     EXPECT_EQ(all_rulebooks.at(static_cast<std::size_t>(tivex::rulebook)), r[5].str());

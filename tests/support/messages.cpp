@@ -70,12 +70,3 @@ std::string document_of(const message_ptr& msg) {
   std::free(document);
   return text;
 }
-
-std::string lines_with(const std::string& document, const std::string& tag) {
-  std::string found;
-  for (const std::string& line : split(document, "\n")) {
-    const std::size_t start = line.find("<" + tag + ">");
-    if (start != line.npos) found += line.substr(start) + "\n";
-  }
-  return found;
-}

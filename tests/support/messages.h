@@ -40,6 +40,3 @@ std::string error_of(const message_ptr& msg);
 
 // The document, or an empty text when there is none.
 std::string document_of(const message_ptr& msg);
-
-// The lines that hold an element, without indentation, each ended by a line feed.
-std::string lines_with(const std::string& document, const std::string& tag);

@@ -51,18 +51,16 @@ failing_allocation::~failing_allocation() {
 }
 bool failing_allocation::happened() const { return failure_happened; }
 
-fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int second) {
+fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int second,
+                         const char* zone) {
   const std::chrono::sys_days date = std::chrono::year(year) / month / day;
   clock_moment =
       date.time_since_epoch() / std::chrono::seconds(1) + hour * 3600 + minute * 60 + second;
-}
-fixed_clock::~fixed_clock() { clock_moment.reset(); }
-
-fixed_zone::fixed_zone(const char* zone) {
   setenv("TZ", zone, 1);
   tzset();
 }
-fixed_zone::~fixed_zone() {
+fixed_clock::~fixed_clock() {
+  clock_moment.reset();
   unsetenv("TZ");
   tzset();
 }

@@ -15,16 +15,12 @@ struct failing_allocation {
   bool happened() const;
 };
 
-// The clock stands at a moment of Coordinated Universal Time.
+// The clock stands at a moment of Coordinated Universal Time, and local time is
+// that of a zone as TZ names it.
 struct fixed_clock {
-  fixed_clock(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
+  fixed_clock(int year, int month, int day, int hour = 12, int minute = 0, int second = 0,
+              const char* zone = "UTC");
   ~fixed_clock();
-};
-
-// Local time is that of a zone as TZ names it.
-struct fixed_zone {
-  explicit fixed_zone(const char* zone);
-  ~fixed_zone();
 };
 
 struct fixed_process_id {
