@@ -9,8 +9,6 @@
 #include "validation/iban.h"
 #include "validation/iban_countries.h"
 
-using runtime_control::failing_allocation;
-
 namespace {
 
 std::string fault_of(const char* iban) {
@@ -83,7 +81,7 @@ TEST(Patterns, AreCompiledAgainAfterAFailure) {
   tivex_cleanup();
   // One allocation for the set and one for each pattern.
   for (std::size_t n = 1; n <= tivex::iban_country_table.size() + 1; ++n) {
-    const failing_allocation failing(n, true);
+    const runtime_control::failing_allocation failing(n, true);
     EXPECT_EQ(fault_of("NO9386011117947"), "Error while initializing regular expressions") << n;
     EXPECT_EQ(tivex::format_check(tivex::FORMAT_TEXT70, "x"), false) << "every kind";
   }

@@ -70,19 +70,18 @@ TEST(XmlBuffer, StaysAsItWasWhenMemoryIsExhausted) {
 }
 
 TEST(DocumentWriter, TellsOfValuesThatDoNotFitButNotOfMarkup) {
-  using writer = document_writer;
-  const std::pair<void (*)(writer&, const char*), const char*> rows[] = {
-      {[](writer& out, const char* text) { out.open(text); }, ""},
-      {[](writer& out, const char* text) { out.fixed("A", text); }, ""},
-      {[](writer& out, const char* text) { out.escaped(text, ""); }, ""},
-      {[](writer& out, const char* text) { out.value("A", text); }, "Out of memory"},
-      {[](writer& out, const char* text) { out.escaped("A", text); }, "Out of memory"},
+  const std::pair<void (*)(document_writer&, const char*), const char*> rows[] = {
+      {[](document_writer& out, const char* text) { out.open(text); }, ""},
+      {[](document_writer& out, const char* text) { out.fixed("A", text); }, ""},
+      {[](document_writer& out, const char* text) { out.escaped(text, ""); }, ""},
+      {[](document_writer& out, const char* text) { out.value("A", text); }, "Out of memory"},
+      {[](document_writer& out, const char* text) { out.escaped("A", text); }, "Out of memory"},
   };
   for (const auto& [write, error] : rows) {
     const message_ptr msg = new_message(TIVEX_CREDIT_TRANSFER);
     const xml_buffer_ptr out(xml_buffer_new());
     ASSERT_TRUE(xml_buffer_append(*out, std::string(230, 'x')));
-    writer document(*out);
+    document_writer document(*out);
     const runtime_control::failing_allocation failing(1, true);
     write(document, std::string(50, 'y').c_str());
     const std::uint32_t length = out->length;
