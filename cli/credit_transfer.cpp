@@ -2,28 +2,21 @@
 
 #include <tivex.h>
 
-#include "payment_columns.h"
+#include "payment_tables.h"
 
 namespace tivex_program {
 namespace {
 
 constexpr header_option options[] = {
-    {"--name", "NAME", "Name of the account's holder", true, tivex_setName},
+    name_option,
     {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
     {"--bic", "BIC", "The account's bank", false, tivex_setBIC},
     {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
      tivex_setDate, date_fault},
-    {"--message-id", "ID", "Identifier of the message (default: made up)", false,
-     tivex_setMessageId},
+    message_id_option,
 };
 
 constexpr auto columns = with_shared_columns(std::array{column{"purp", purpose_fault}});
-
-constexpr tivex_keyvalue_t sound_values[] = {
-    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}};
-
-constexpr missing_value missing_values[] = {
-    {"IBAN missing", "iban"}, {"BIC missing", "bic"}, {"Amount missing", "amount"}};
 
 constexpr const char* example = R"(Example:
   tivex credit-transfer --name "Beispiel GmbH" --iban DE89370400440532013000 \
@@ -50,10 +43,7 @@ constinit const payment_command credit_transfer = {
     .description = "Write a credit transfer document (pain.001) from a CSV file",
     .example = example,
     .options = options,
-    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER,
-                     .columns = columns,
-                     .sound_values = sound_values,
-                     .missing_values = missing_values},
+    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER, .columns = columns},
 };
 
 }  // namespace tivex_program

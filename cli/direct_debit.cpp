@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "payment_columns.h"
+#include "payment_tables.h"
 
 namespace tivex_program {
 namespace {
@@ -22,7 +22,7 @@ int set_local_instrument(tivex_t* message, const char* value) {
 }
 
 constexpr header_option options[] = {
-    {"--name", "NAME", "Name of the account's holder", true, tivex_setName},
+    name_option,
     {"--iban", "IBAN", "Account that the collections are made for", true, tivex_setIBAN},
     {"--bic", "BIC", "The account's bank", true, tivex_setBIC},
     {"--creditor-id", "ID", "Creditor identifier", true, tivex_setCreditorIdentifier,
@@ -31,8 +31,7 @@ constexpr header_option options[] = {
      local_instrument_fault},
     {"--date", "DATE", "Collection date of lines without one, yyyy-mm-dd (default: today)", false,
      tivex_setDate, date_fault},
-    {"--message-id", "ID", "Identifier of the message (default: made up)", false,
-     tivex_setMessageId},
+    message_id_option,
 };
 
 constexpr auto columns = with_shared_columns(std::array{
@@ -43,18 +42,6 @@ constexpr auto columns = with_shared_columns(std::array{
     column{"old_iban"},
     column{"smnda"},
 });
-
-constexpr tivex_keyvalue_t sound_values[] = {
-    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}, {"seq", "RCUR"}};
-
-constexpr missing_value missing_values[] = {
-    {"IBAN missing", "iban"},
-    {"BIC missing", "bic"},
-    {"Address required for BICs outside EEA", "addrLine1"},
-    {"Structured address required for BICs outside EEA (at least town and country)", "addrTown"},
-    {"Sequence type missing", "seq"},
-    {"Amount missing", "amount"},
-};
 
 constexpr const char* example = R"(Example:
   tivex direct-debit --name "Sportverein Beispiel" --iban DE89370400440532013000 \
@@ -82,10 +69,7 @@ constinit const payment_command direct_debit = {
     .description = "Write a direct debit document (pain.008) from a CSV file",
     .example = example,
     .options = options,
-    .transactions = {.message_type = TIVEX_DIRECT_DEBIT,
-                     .columns = columns,
-                     .sound_values = sound_values,
-                     .missing_values = missing_values},
+    .transactions = {.message_type = TIVEX_DIRECT_DEBIT, .columns = columns},
 };
 
 }  // namespace tivex_program

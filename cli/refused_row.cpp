@@ -1,11 +1,33 @@
 #include "refused_row.h"
 
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "handles.h"
 
 namespace tivex_program {
 namespace {
+
+// A transaction that every rulebook takes; a value that follows replaces its own.
+// Credit transfers ignore the sequence type.
+constexpr tivex_keyvalue_t sound_values[] = {
+    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}, {"seq", "RCUR"}};
+
+// The reasons that the library refuses a transaction for although each of its
+// values is right, and the key that it lacks.
+struct missing_value {
+  std::string_view reason;
+  const char* key;
+};
+constexpr missing_value missing_values[] = {
+    {"IBAN missing", "iban"},
+    {"BIC missing", "bic"},
+    {"Address required for BICs outside EEA", "addrLine1"},
+    {"Structured address required for BICs outside EEA (at least town and country)", "addrTown"},
+    {"Sequence type missing", "seq"},
+    {"Amount missing", "amount"},
+};
 
 std::string reason_of(const tivex_t* message) {
   const char* const text = tivex_getError(message);
@@ -14,8 +36,8 @@ std::string reason_of(const tivex_t* message) {
 
 // The key that a transaction lacks when it is refused for a reason; null when the
 // reason is another.
-const char* missing_key(const transaction_kind& kind, const std::string& reason) {
-  for (const missing_value& missing : kind.missing_values) {
+const char* missing_key(const std::string& reason) {
+  for (const missing_value& missing : missing_values) {
     if (reason == missing.reason) return missing.key;
   }
   return nullptr;
@@ -23,21 +45,21 @@ const char* missing_key(const transaction_kind& kind, const std::string& reason)
 
 }  // namespace
 
-row_fault explain(const tivex_t* message, const transaction_kind& kind,
+row_fault explain(const tivex_t* message, int message_type,
                   const std::vector<tivex_keyvalue_t>& list) {
-  const message_handle scratch(tivex_new(kind.message_type));
+  const message_handle scratch(tivex_new(message_type));
   for (const tivex_keyvalue_t& entry : list) {
     if (entry.key == nullptr || !scratch) break;
-    std::vector<tivex_keyvalue_t> alone(kind.sound_values.begin(), kind.sound_values.end());
+    std::vector<tivex_keyvalue_t> alone(std::begin(sound_values), std::end(sound_values));
     alone.push_back(entry);
     alone.push_back({nullptr, nullptr});
     if (tivex_add(scratch.get(), alone.data()) == 1) continue;
     // What the value lacks alone, the row may have.
     std::string reason = reason_of(scratch.get());
-    if (missing_key(kind, reason) == nullptr) return {entry.key, std::move(reason)};
+    if (missing_key(reason) == nullptr) return {entry.key, std::move(reason)};
   }
   std::string reason = reason_of(message);
-  const char* const key = missing_key(kind, reason);
+  const char* const key = missing_key(reason);
   return {key == nullptr ? "" : key, std::move(reason)};
 }
 

@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "transaction_kind.h"
-
 namespace tivex_program {
 
 struct row_fault {
@@ -15,8 +13,8 @@ struct row_fault {
 };
 
 // Finds the key that the library refused in a list that it has just refused to
-// add to the message.
-row_fault explain(const tivex_t* message, const transaction_kind& kind,
+// add to the message, which is of the type named.
+row_fault explain(const tivex_t* message, int message_type,
                   const std::vector<tivex_keyvalue_t>& list);
 
 }  // namespace tivex_program

@@ -63,7 +63,8 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
     if (!cells_are_sound(row, columns, faults)) continue;
     list_cells(row, columns, list);
     if (tivex_add(message, list.data()) == 1) continue;
-    const row_fault fault = faults.full() ? row_fault{} : explain(message, format.kind, list);
+    const row_fault fault =
+        faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
     faults.add(row.line, fault.key, fault.reason);
   }
   if (!input.error().empty()) {

@@ -1,6 +1,5 @@
 #include "xml/credit_transfer_document.h"
 
-#include "core/rulebook.h"
 #include "platform/platform.h"
 #include "transactions/credit_transfer.h"
 #include "xml/document_frame.h"
@@ -62,8 +61,8 @@ void write_transaction(document_writer& out, const document_schema& schema,
 bool cti_toXML(message& msg, xml_buffer_t& out) {
   const std::time_t moment = platform::now();
   if (!ensure_message_id(msg, moment)) return msg.fail("cti_toXML: strdup() failed");
-  const document_schema* const schema = schema_of(rulebook);
-  if (schema == nullptr) return msg.fail("unknown/unsupported SEPA rulebook selected");
+  const document_schema* const schema = selected_schema(msg);
+  if (schema == nullptr) return false;
 
   payment_blocks<ct_transaction> blocks;
   if (!blocks.group(msg, [](const ct_transaction& /*tx*/) { return 0; })) return false;

@@ -144,8 +144,8 @@ bool ddi_toXML(message& msg, xml_buffer_t& out) {
     return msg.fail("Unknown/unsupported LocalInstrumentCode (setDDType)");
   }
   if (!ensure_message_id(msg, moment)) return msg.fail("ddi_toXML: strdup() failed");
-  const document_schema* const schema = schema_of(rulebook);
-  if (schema == nullptr) return msg.fail("unknown/unsupported SEPA rulebook selected");
+  const document_schema* const schema = selected_schema(msg);
+  if (schema == nullptr) return false;
 
   payment_blocks<dd_transaction> blocks;
   if (!blocks.group(msg, slot_of)) return false;

@@ -1,6 +1,7 @@
 #include "xml/document_frame.h"
 
 #include "core/bounded_format.h"
+#include "core/rulebook.h"
 #include "xml/amount_text.h"
 #include "xml/document_stamp.h"
 #include "xml/parties.h"
@@ -25,6 +26,12 @@ void write_payment_id(document_writer& out, const message& msg, int number) {
 }
 
 }  // namespace
+
+const document_schema* selected_schema(message& msg) {
+  const document_schema* const schema = schema_of(rulebook);
+  if (schema == nullptr) msg.fail("unknown/unsupported SEPA rulebook selected");
+  return schema;
+}
 
 document_attributes::document_attributes(const document_form& form) {
   constexpr const char* names =

@@ -20,6 +20,10 @@ struct document_form {
   std::time_t moment;
 };
 
+// The schema of the selected rulebook; null, with the reason in the message, when
+// there is none.
+const document_schema* selected_schema(message& msg);
+
 // The attributes of the Document element.
 class document_attributes {
  public:

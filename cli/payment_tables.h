@@ -1,3 +1,4 @@
+// What the commands for payments share.
 #pragma once
 
 #include <algorithm>
@@ -5,9 +6,16 @@
 #include <cstddef>
 
 #include "columns.h"
+#include "payment_command.h"
 #include "rulebooks.h"
 
 namespace tivex_program {
+
+inline constexpr header_option name_option = {"--name", "NAME", "Name of the account's holder",
+                                              true, tivex_setName};
+inline constexpr header_option message_id_option = {"--message-id", "ID",
+                                                    "Identifier of the message (default: made up)",
+                                                    false, tivex_setMessageId};
 
 // The columns of every payment.
 inline constexpr std::array shared_columns = {
