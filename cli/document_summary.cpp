@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "labelled_line.h"
+
 namespace tivex_program {
 namespace {
 
@@ -22,13 +24,6 @@ std::size_t count(std::string_view text, std::string_view part) {
   return found;
 }
 
-std::string line(std::string_view label, const std::string& value) {
-  constexpr std::size_t label_width = 16;
-  std::string text(label);
-  text.resize(label_width, ' ');
-  return text + value;
-}
-
 }  // namespace
 
 std::vector<std::string> document_summary(std::string_view document, const std::string& rulebook,
@@ -37,9 +32,11 @@ std::vector<std::string> document_summary(std::string_view document, const std::
   const std::string_view transactions = between(header, "<NbOfTxs>", "<");
   const std::string_view sum = between(header, "<CtrlSum>", "<");
   const std::string_view schema = between(document, ":xsd:", "\"");
-  return {line("transactions", std::string(transactions)), line("sum", std::string(sum) + " EUR"),
-          line("payment blocks", std::to_string(count(document, "<PmtInf>"))),
-          line("rulebook", rulebook + " (" + std::string(schema) + ")"), line("file", file)};
+  return {labelled_line("transactions", std::string(transactions)),
+          labelled_line("sum", std::string(sum) + " EUR"),
+          labelled_line("payment blocks", std::to_string(count(document, "<PmtInf>"))),
+          labelled_line("rulebook", rulebook + " (" + std::string(schema) + ")"),
+          labelled_line("file", file)};
 }
 
 }  // namespace tivex_program

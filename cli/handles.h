@@ -22,4 +22,9 @@ struct document_deleter {
 };
 using document_handle = std::unique_ptr<char, document_deleter>;
 
+struct bank_deleter {
+  void operator()(tivex_bank_info_t* bank) const { std::free(bank); }
+};
+using bank_handle = std::unique_ptr<tivex_bank_info_t, bank_deleter>;
+
 }  // namespace tivex_program

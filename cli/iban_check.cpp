@@ -1,9 +1,7 @@
 #include "iban_check.h"
 
 #include <CLI/CLI.hpp>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -12,6 +10,7 @@
 #include "diagnostics.h"
 #include "exit_status.h"
 #include "handles.h"
+#include "standard_output.h"
 #include "value_rules.h"
 
 namespace tivex_program {
@@ -71,10 +70,7 @@ int run(const std::vector<std::string>& ibans) {
       checker.check(iban);
     }
   }
-  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-    print_error(std::string("standard output: ") + std::strerror(errno));
-    return exit_failure;
-  }
+  if (!flush_standard_output()) return exit_failure;
   return checker.all_valid() ? exit_success : exit_failure;
 }
 

@@ -5,6 +5,7 @@
 #include <exception>
 #include <string>
 
+#include "bank.h"
 #include "credit_transfer.h"
 #include "diagnostics.h"
 #include "direct_debit.h"
@@ -17,12 +18,14 @@ namespace {
 int run(int argument_count, char** arguments) {
   int exit_status = exit_success;
   CLI::App program("Payments in the Single Euro Payments Area", "tivex");
-  program.set_version_flag("--version", std::string("tivex ") + tivex_version_str);
+  program.set_version_flag("--version", std::string("tivex ") + tivex_version_str + " (edition " +
+                                            tivex_edition_str + ")");
   program.require_subcommand(1);
   program.footer("tivex COMMAND --help shows the command's options and an example.");
   add_payment_command(program, credit_transfer, exit_status);
   add_payment_command(program, direct_debit, exit_status);
   add_iban_check(program, exit_status);
+  add_bank(program, exit_status);
   try {
     program.parse(argument_count, arguments);
   } catch (const CLI::RequiredError& error) {

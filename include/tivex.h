@@ -2,8 +2,9 @@
  * tivex: payments in the Single Euro Payments Area.
  *
  * The library writes pain.001 and pain.008 documents from key-value transactions
- * under ten national rulebooks and validates IBANs and BICs. This header is its
- * whole interface; it is valid C89, C11 and C++.
+ * under ten national rulebooks, validates IBANs and BICs and finds the bank behind
+ * them in a directory of its own. This header is its whole interface; it is valid
+ * C89, C11 and C++.
  *
  * What holds for every function
  *
@@ -11,13 +12,13 @@
  *   count bytes, without the NUL, so a letter with an umlaut counts two.
  *   Letters, digits and case mean ASCII, whatever locale the host has set.
  * - The library copies every text that it keeps; the host keeps owning what it
- *   passes in. The one thing the host must release is the document that
- *   tivex_toXML returns, with the C run-time's free().
+ *   passes in. The host releases two things with the C run-time's free(): the
+ *   document that tivex_toXML returns and the block that a bank lookup returns.
  * - Nothing is printed, logged or thrown, and no call ends the process. Results
  *   are small integers; the reason of a failure is read with tivex_getError.
  * - The library creates no threads. A message belongs to one thread at a time;
- *   different messages may be used by different threads, and tivex_iban_check
- *   may be called by any number of threads at once. tivex_init and
+ *   different messages may be used by different threads, and the checks and
+ *   lookups may be called by any number of threads at once. tivex_init and
  *   tivex_cleanup are called while no other thread is inside the library.
  * - Account data is overwritten with zeros before its memory is released.
  */
@@ -50,6 +51,12 @@ extern "C" {
    as long as the library is loaded. */
 extern TIVEX_API const int tivex_version_int;
 extern TIVEX_API const char *tivex_version_str;
+
+/* The edition of the compiled bank directory: the date from which its latest
+   German data holds, and the numbers of German, Austrian and Swiss (with
+   Liechtenstein) bank codes and of BICs, such as
+   "2025-03-03 DE 3527 AT 871 CH 1171 BIC 4687". */
+extern TIVEX_API const char *tivex_edition_str;
 
 /* --- Process-wide settings ------------------------------------------------ */
 
@@ -363,6 +370,73 @@ TIVEX_API char *tivex_toXML(tivex_t *msg);
  * the reason.
  */
 TIVEX_API int tivex_iban_check(const char *iban);
+
+/* --- Banks ---------------------------------------------------------------- */
+
+/*
+ * The bank behind a code. The block and its texts are one allocation of the C
+ * run-time's malloc(): the host releases it with one call of free().
+ */
+typedef struct tivex_bank_info {
+  char *name;           /* of the institution */
+  char *postcode;       /* null after tivex_bic_getBank, otherwise may be empty */
+  char *city;           /* null after tivex_bic_getBank, otherwise may be empty */
+  char *country;        /* ISO 3166 code of the address, empty for Switzerland; after
+                           tivex_bic_getBank that of the BIC */
+  char *bic;            /* 11 characters, or empty for a bank without one */
+  unsigned short flags; /* after tivex_bic_getBank TIVEX_SCHEME_..., otherwise 0 */
+} tivex_bank_info_t;
+
+/* Payment schemes by which a BIC is reachable, as the Deutsche Bundesbank's
+   register of reachable payment service providers states them. Other bits may
+   be set in later editions. */
+#define TIVEX_SCHEME_CREDIT_TRANSFER 0x01
+#define TIVEX_SCHEME_DEBIT_CORE 0x02
+#define TIVEX_SCHEME_DEBIT_B2B 0x08
+
+/*
+ * The lookups below read a directory that is compiled into the library, and the
+ * clock: a German bank code may change on a date that the directory knows, and
+ * from 00:00 German time of that date the changed data is returned without the
+ * library being loaded anew.
+ *
+ * info: where to store the address of a new block when the bank is found; null
+ *       when the host only wants to know whether it exists. On any other result
+ *       it is left as it was.
+ *
+ * Results: 1 found, 0 no directory for this country, -1 invalid IBAN, -2 not in
+ * the directory, -3 memory exhausted.
+ */
+
+/*
+ * Finds a bank by its national bank code.
+ *
+ * country:   "AT", "CH", "DE" or "LI", in capital letters.
+ * bank_code: at most 5 bytes, for "DE" 8; zeros on the left may be left out.
+ *            "LI" and "CH" share their bank codes.
+ *
+ * Returns 1, 0 (another or null country), -2 (also for a null, empty or too long
+ * bank code) or -3.
+ */
+TIVEX_API int tivex_bankid_check(const char *country, const char *bank_code,
+                                 tivex_bank_info_t **info);
+
+/*
+ * Finds the bank that an IBAN of AT, CH, DE or LI names. The IBAN is checked as
+ * tivex_iban_check does.
+ *
+ * Returns 1, 0 (a valid IBAN of another country), -1 (also for null), -2 or -3.
+ */
+TIVEX_API int tivex_iban_getBank(const char *iban, tivex_bank_info_t **info);
+
+/*
+ * Finds a payment service provider by its BIC (ISO 9362): 8 or 11 letters and
+ * digits in either case; 8 stand for the same with "XXX" behind them. postcode
+ * and city of the block are null.
+ *
+ * Returns 1, -2 (also for a null or malformed BIC) or -3.
+ */
+TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
 
 #ifdef __cplusplus
 }

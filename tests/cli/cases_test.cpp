@@ -37,8 +37,11 @@ std::string expanded(std::string text) {
 std::vector<marked_texts> read_cases(const std::string& name) {
   static const std::regex form(
       R"((% \{\w+\}|\$|<|=|[!>][~^]?) ((?:[^\\\r]|\\[nrt]|\\x[0-9A-F]{2})+))");
-  std::map<std::string, std::string> names = {
-      {"{version}", TIVEX_VERSION_STR}, {"\\n", "\n"}, {"\\r", "\r"}, {"\\t", "\t"}};
+  std::map<std::string, std::string> names = {{"{version}", TIVEX_VERSION_STR},
+                                              {"{edition}", tivex_edition_str},
+                                              {"\\n", "\n"},
+                                              {"\\r", "\r"},
+                                              {"\\t", "\t"}};
   std::vector<marked_texts> cases;
   std::ifstream file(TIVEX_SOURCE_DIR "/tests/data/cli/" + name);
   std::string line;
@@ -85,7 +88,7 @@ TEST_P(Cases, EndAsTheirFileSays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, Cases,
-                         testing::Values("faults", "iban_check", "output", "rows", "usage"),
+                         testing::Values("bank", "faults", "iban_check", "output", "rows", "usage"),
                          [](const auto& file) { return file.param; });
 
 TEST(Rows, AreWholeWhereBuffersEnd) {
