@@ -24,6 +24,13 @@ unsigned number(std::string_view digits) {
   return value;
 }
 
+// C0 and C1: the latter is what Windows-1252 turns into when it is read as Latin-1.
+bool is_control(std::string_view character) {
+  const auto byte = static_cast<unsigned char>(character[0]);
+  if (character.size() == 1) return byte < 0x20 || byte == 0x7F;
+  return byte == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
 }  // namespace
 
 bool is_digits(std::string_view text, std::size_t count) {
@@ -76,8 +83,7 @@ bool is_record_text(std::string_view text) {
   if (text.starts_with(' ') || text.ends_with(' ')) return false;
   while (!text.empty()) {
     const std::size_t length = utf8_length(text);
-    const auto first = static_cast<unsigned char>(text[0]);
-    if (length == 0 || first < 0x20 || first == 0x7F || first == '|') return false;
+    if (length == 0 || text[0] == '|' || is_control(text.substr(0, length))) return false;
     text.remove_prefix(length);
   }
   return true;

@@ -6,9 +6,15 @@
 namespace tivex_edition {
 
 std::optional<std::string> read_whole_file(const std::filesystem::path& path, fault_list& faults) {
-  std::ifstream file(path, std::ios::binary);
+  // Opening a folder succeeds, and reading it throws.
+  std::ifstream file;
+  if (!std::filesystem::is_directory(path)) file.open(path, std::ios::binary);
+  if (!file.is_open()) {
+    faults.add(path.string(), "cannot be read");
+    return std::nullopt;
+  }
   std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (!file.is_open() || file.bad() || std::filesystem::is_directory(path)) {
+  if (file.bad()) {
     faults.add(path.string(), "cannot be read");
     return std::nullopt;
   }
