@@ -1,7 +1,8 @@
 #include "hash_construction.h"
 
-#include <array>
+#include <algorithm>
 #include <random>
+#include <utility>
 
 namespace tivex_edition {
 
@@ -50,7 +51,8 @@ struct peeled_edge {
 // than all come back when the graph holds a circle.
 std::vector<peeled_edge> peel(const edge_list& edges, std::size_t vertex_count) {
   // The exclusive or of a vertex's edges is its last edge once it has one only.
-  std::vector<std::size_t> degree(vertex_count), edges_of(vertex_count);
+  std::vector<std::size_t> degree(vertex_count);
+  std::vector<std::size_t> edges_of(vertex_count);
   for (std::size_t edge = 0; edge < edges.size(); ++edge) {
     for (const std::uint32_t vertex : edges[edge].vertex) {
       ++degree[vertex];
@@ -68,7 +70,8 @@ std::vector<peeled_edge> peel(const edge_list& edges, std::size_t vertex_count) 
     }
   };
   for (std::uint32_t vertex = 0; vertex < vertex_count; ++vertex) take_off_at(vertex);
-  for (std::size_t next = 0; next < order.size(); ++next) {
+  // The list grows while it is walked.
+  for (std::size_t next = 0; next < order.size(); ++next) {  // NOLINT(modernize-loop-convert)
     for (const std::uint32_t vertex : edges[order[next].edge].vertex) take_off_at(vertex);
   }
   return order;
@@ -76,18 +79,18 @@ std::vector<peeled_edge> peel(const edge_list& edges, std::size_t vertex_count) 
 
 // Chooses the values from the last edge taken off to the first, so that each
 // free vertex is still open and makes its edge's sum right.
-void assign_values(const edge_list& edges, const std::vector<peeled_edge>& order,
-                   constructed_hash& hash) {
-  for (auto next = order.rbegin(); next != order.rend(); ++next) {
+void assign_values(const edge_list& edges, std::vector<peeled_edge> order, constructed_hash& hash) {
+  std::reverse(order.begin(), order.end());
+  for (const peeled_edge& next : order) {
     std::int64_t others = 0;
-    for (const std::uint32_t vertex : edges[next->edge].vertex) {
+    for (const std::uint32_t vertex : edges[next.edge].vertex) {
       std::int32_t& value = hash.vertex_values[vertex];
       if (value < 0) value = 0;
-      if (vertex != next->free_vertex) others += value;
+      if (vertex != next.free_vertex) others += value;
     }
     const std::int64_t count = hash.key_count;
-    const auto index = static_cast<std::int64_t>(next->edge);
-    hash.vertex_values[next->free_vertex] =
+    const auto index = static_cast<std::int64_t>(next.edge);
+    hash.vertex_values[next.free_vertex] =
         static_cast<std::int32_t>(((index - others) % count + count) % count);
   }
 }
@@ -98,14 +101,15 @@ std::unique_ptr<constructed_hash> construct_hash(const std::vector<std::string>&
   auto hash = std::make_unique<constructed_hash>();
   hash->key_count = static_cast<std::int32_t>(keys.size());
   hash->vertex_values.assign((keys.size() * vertices_per_hundred_keys + 99) / 100, -1);
+  // NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): the same keys make the same tables
   std::mt19937_64 random(seed);
   edge_list edges;
   for (int attempt = 0; attempt < most_attempts; ++attempt) {
     draw_weights(random, static_cast<std::uint32_t>(hash->vertex_values.size()), *hash);
     if (!find_edges(keys, hash->tables(), edges)) continue;
-    const std::vector<peeled_edge> order = peel(edges, hash->vertex_values.size());
+    std::vector<peeled_edge> order = peel(edges, hash->vertex_values.size());
     if (order.size() < edges.size()) continue;
-    assign_values(edges, order, *hash);
+    assign_values(edges, std::move(order), *hash);
     return hash;
   }
   return nullptr;

@@ -133,6 +133,7 @@ std::vector<source_file> generate_tables(const edition& facts, fault_list& fault
   const std::vector<directory_record> records = lay_out_records(facts, faults);
   if (!faults.empty()) return {};
   std::vector<std::string> keys;
+  keys.reserve(records.size());
   for (const directory_record& record : records) keys.push_back(record.key);
   const std::unique_ptr<constructed_hash> hash = construct_hash(keys);
   if (hash == nullptr) {

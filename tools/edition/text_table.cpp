@@ -24,8 +24,8 @@ std::vector<std::string> split(std::string_view line) {
 
 std::string join(const std::vector<std::string>& fields) {
   std::string line;
-  for (const std::string& field : fields)
-    line += (line.empty() && &field == &fields[0] ? "" : "\t") + field;
+  for (const std::string& field : fields) line += field + '\t';
+  line.pop_back();
   return line;
 }
 
