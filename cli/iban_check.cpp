@@ -2,12 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
-#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "diagnostics.h"
+#include "each_argument.h"
 #include "exit_status.h"
 #include "handles.h"
 #include "standard_output.h"
@@ -47,13 +47,6 @@ class iban_checker {
     std::printf("%s: %s\n", printable(iban).c_str(), fault.empty() ? "valid" : fault.c_str());
   }
 
-  void check_lines(std::istream& lines) {
-    for (std::string line; std::getline(lines, line);) {
-      if (line.ends_with('\r')) line.pop_back();
-      if (!line.empty()) check(line);
-    }
-  }
-
   bool all_valid() const { return all_valid_; }
 
  private:
@@ -63,13 +56,7 @@ class iban_checker {
 
 int run(const std::vector<std::string>& ibans) {
   iban_checker checker;
-  for (const std::string& iban : ibans) {
-    if (iban == "-") {
-      checker.check_lines(std::cin);
-    } else {
-      checker.check(iban);
-    }
-  }
+  for_each_argument(ibans, [&checker](const std::string& iban) { checker.check(iban); });
   if (!flush_standard_output()) return exit_failure;
   return checker.all_valid() ? exit_success : exit_failure;
 }

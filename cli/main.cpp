@@ -5,6 +5,7 @@
 #include <exception>
 #include <string>
 
+#include "account_check.h"
 #include "bank.h"
 #include "credit_transfer.h"
 #include "diagnostics.h"
@@ -26,6 +27,7 @@ int run(int argument_count, char** arguments) {
   add_payment_command(program, direct_debit, exit_status);
   add_iban_check(program, exit_status);
   add_bank(program, exit_status);
+  add_account_check(program, exit_status);
   try {
     program.parse(argument_count, arguments);
   } catch (const CLI::RequiredError& error) {

@@ -160,7 +160,9 @@ TIVEX_API const char *tivex_getError(const tivex_t *msg);
  * null one), cut at 255 bytes; "strdup() failed".
  *   "Invalid IBAN (NULL)", "Invalid or unknown IBAN country code",
  *   "Wrong IBAN length", "Invalid IBAN format", "Invalid IBAN checksum",
- *   "Invalid character in IBAN",
+ *   "Invalid character in IBAN", of a German IBAN also
+ *   "Invalid bank ID (BLZ) in IBAN" (not in the directory) and
+ *   "Invalid account number in IBAN" (by the bank's check-digit method),
  *   "Error while initializing regular expressions" (memory exhausted).
  */
 TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
@@ -363,8 +365,10 @@ TIVEX_API char *tivex_toXML(tivex_t *msg);
 
 /*
  * Checks an IBAN (ISO 13616) of the 37 countries whose rules the library
- * holds: country, length (15 to 31 bytes), national format and check digits.
- * Capital letters only, no blanks.
+ * holds: country, length (15 to 31 bytes), national format and check digits; of
+ * German IBANs also that the bank code is in the compiled directory and that the
+ * account number passes the bank's check-digit method (tivex_account_check2; an
+ * account that is not checked passes). Capital letters only, no blanks.
  *
  * Returns 1 for a valid IBAN, -1 for an invalid or null one. tivex_setIBAN gives
  * the reason.
@@ -437,6 +441,50 @@ TIVEX_API int tivex_iban_getBank(const char *iban, tivex_bank_info_t **info);
  * Returns 1, -2 (also for a null or malformed BIC) or -3.
  */
 TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
+
+/*
+ * Returns the check-digit method of a German bank code, for tivex_account_check2:
+ * 0 to 255, its two characters as hexadecimal digits. As with the lookups above
+ * it is the method that holds now, zeros on the left may be left out, and -2 means
+ * not in the directory (also for a null, empty or too long bank code).
+ */
+TIVEX_API int tivex_bankid_getMethod(const char *bank_code);
+
+/* --- German account numbers ----------------------------------------------- */
+
+/* Results of the account checks. */
+#define TIVEX_ACCOUNT_INVALID (-1)
+#define TIVEX_ACCOUNT_NOT_CHECKED 0
+#define TIVEX_ACCOUNT_VALID 1
+#define TIVEX_ACCOUNT_VALID_BY_VARIANT 2 /* second variant of method 76 */
+
+/*
+ * Checks a German account number by a check-digit method of the Deutsche
+ * Bundesbank's list ("Pruefzifferberechnungsmethoden zur Pruefung von
+ * Kontonummern auf ihre Richtigkeit").
+ *
+ * account: 1 to 10 bytes; zeros on the left may be left out. Characters other
+ *          than digits are not refused as such, they fail or pass by the method's
+ *          arithmetic.
+ * method:  the method's two characters as hexadecimal digits: 0x00 for "00",
+ *          0xB6 for "B6". Only the low 8 bits count.
+ *
+ * Returns TIVEX_ACCOUNT_VALID, TIVEX_ACCOUNT_VALID_BY_VARIANT (valid as well),
+ * TIVEX_ACCOUNT_NOT_CHECKED (there is no such method, method 09, an account that
+ * the method leaves unchecked, or method 52, 53, B6 or C0, which need
+ * tivex_account_check2), or TIVEX_ACCOUNT_INVALID (also for a null, empty or too
+ * long account).
+ */
+TIVEX_API int tivex_account_check(const char *account, int method);
+
+/*
+ * Does the same with the bank code, which methods 52, 53, B6 and C0 need and the
+ * others ignore.
+ *
+ * bank_code: 8 bytes; any other length and null give TIVEX_ACCOUNT_INVALID,
+ *            whatever the method.
+ */
+TIVEX_API int tivex_account_check2(const char *account, const char *bank_code, int method);
 
 #ifdef __cplusplus
 }

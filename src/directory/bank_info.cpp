@@ -77,3 +77,9 @@ int tivex_bic_getBank(const char* bic, tivex_bank_info_t** info) {
   if (tivex::directory_find_bic(bic, wanted) == 0) return tivex::NOT_FOUND;
   return info == nullptr ? tivex::FOUND : tivex::hand_out(record, *info);
 }
+
+int tivex_bankid_getMethod(const char* bank_code) {
+  tivex::bank_record record;
+  if (tivex::directory_find_bank("DE", bank_code, &record) == 0) return tivex::NOT_FOUND;
+  return record.method;
+}

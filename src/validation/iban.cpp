@@ -4,6 +4,7 @@
 
 #include "tivex.h"
 #include "validation/ascii.h"
+#include "validation/german_iban.h"
 #include "validation/iban_countries.h"
 #include "validation/mod97.h"
 #include "validation/patterns.h"
@@ -48,6 +49,8 @@ const char* iban_fault(const char* iban) {
   const int remainder = iban_remainder(iban);
   if (remainder == IBAN_BAD_CHARACTER) return "Invalid character in IBAN";
   if (remainder != 1) return "Invalid IBAN checksum";
+  // The patterns have no country in small letters.
+  if (iban[0] == 'D' && iban[1] == 'E') return german_iban_fault(iban);
   return nullptr;
 }
 

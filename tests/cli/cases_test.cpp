@@ -88,7 +88,8 @@ TEST_P(Cases, EndAsTheirFileSays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, Cases,
-                         testing::Values("bank", "faults", "iban_check", "output", "rows", "usage"),
+                         testing::Values("account_check", "bank", "faults", "iban_check", "output",
+                                         "rows", "usage"),
                          [](const auto& file) { return file.param; });
 
 TEST(Rows, AreWholeWhereBuffersEnd) {

@@ -75,6 +75,7 @@ void expect_german(const tivex_edition::german_row& entry) {
   tivex::bank_record record;
   ASSERT_EQ(tivex::directory_find_bank("DE", entry.bank_code.c_str(), &record), 1);
   EXPECT_EQ(record.successor, entry.successor);
+  EXPECT_EQ(tivex_bankid_getMethod(entry.bank_code.c_str()), record.method);
   EXPECT_EQ(record.method, std::stoi(entry.method, nullptr, 16)) << entry.bank_code;
   EXPECT_EQ(record.iban_rule, entry.iban_rule) << entry.bank_code;
   EXPECT_EQ(record.scheme_flags, 0);
@@ -122,6 +123,10 @@ TEST(Directory, FindsAndRefusesAsTold) {
               r[3].str())
         << call << ' ' << r[1].str() << ' ' << r[2].str();
   }
+  for (const char* const unknown : {"99999999", "100000000", ""}) {
+    EXPECT_EQ(tivex_bankid_getMethod(unknown), -2);
+  }
+  EXPECT_EQ(tivex_bankid_getMethod(nullptr), -2);
   tivex::bank_record record;
   ASSERT_EQ(tivex::directory_find_bank("DE", "10000000", &record), 1);
   EXPECT_EQ(std::to_string(record.method) + ' ' + std::to_string(record.iban_rule), "9 4201");

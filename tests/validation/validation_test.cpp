@@ -51,6 +51,15 @@ TEST(Iban, IsRefusedWithAnyCharacterChanged) {
   }
 }
 
+// A bank whose method does not check, one whose method does, the second variant of
+// method 76, and a method that needs the bank code.
+TEST(Iban, OfGermanyPassesUnlessTheAccountIsInvalid) {
+  for (const char* const valid : {"DE54100000000000012345", "DE89370400440532013000",
+                                  "DE88100800000072510273", "DE18130510420010000014"}) {
+    EXPECT_EQ(fault_of(valid), "") << valid;
+  }
+}
+
 TEST(Iban, RemainderTakesLettersOfEitherCase) {
   EXPECT_EQ(tivex::iban_remainder("gb29nwbk60161331926819"), 1);
   EXPECT_EQ(tivex::iban_remainder("DE0010000000"), (10000000LL * 1000000 + 131400) % 97);
