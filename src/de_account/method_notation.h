@@ -80,6 +80,11 @@ bool in(const normalised_account& account) {
   return low <= value && value <= high;
 }
 
+template <std::uint64_t limit>
+bool below(const normalised_account& account) {
+  return account.value() < limit;
+}
+
 template <account_condition&... conditions>
 bool any_of(const normalised_account& account) {
   return (conditions(account) || ...);

@@ -26,7 +26,7 @@ inline constexpr account_method& method_04 = M11<10, 0, 2, 3, 4, 5, 6, 7, 2, 3, 
 inline constexpr account_method& method_05 = M10<10, 0, 7, 3, 1, 7, 3, 1, 7, 3, 1>;
 inline constexpr account_method& method_06 = MOD<11, 10, 0, 2, 3, 4, 5, 6, 7, 2, 3, 4>;
 inline constexpr account_method& method_07 = M11<10, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10>;
-inline constexpr account_method& method_08 = choose<in<0, 59999>, unchecked, method_00>;
+inline constexpr account_method& method_08 = choose<below<60000>, unchecked, method_00>;
 inline constexpr account_method& method_09 = unchecked;
 inline constexpr account_method& method_10 = MOD<11, 10, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10>;
 account_method method_11;
