@@ -3,7 +3,6 @@
 #include <tivex.h>
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -13,6 +12,7 @@
 #include "diagnostics.h"
 #include "each_argument.h"
 #include "exit_status.h"
+#include "german_numbers.h"
 #include "standard_output.h"
 
 namespace tivex_program {
@@ -31,15 +31,6 @@ struct account_query {
   std::string bank_code;  // or empty
   std::vector<std::string> accounts;
 };
-
-bool is_number(const std::string& text, std::size_t shortest, std::size_t longest) {
-  return text.size() >= shortest && text.size() <= longest &&
-         std::all_of(text.begin(), text.end(), [](char c) { return '0' <= c && c <= '9'; });
-}
-
-std::string bank_code_fault(const std::string& text) {
-  return is_number(text, 8, 8) ? "" : "'" + printable(text) + "' is not a number of 8 digits";
-}
 
 std::string method_fault(const std::string& text) {
   const bool fits =
@@ -71,9 +62,9 @@ int run(const account_query& query) {
   }
   bool none_invalid = true;
   for_each_argument(query.accounts, [&](const std::string& account) {
-    const char* verdict = "not a number of 1 to 10 digits";
+    const char* verdict = account_wanted;
     int result = TIVEX_ACCOUNT_INVALID;
-    if (is_number(account, 1, 10)) {
+    if (is_german_account(account)) {
       result = result_of(account, query.bank_code, *method);
       verdict = result == TIVEX_ACCOUNT_INVALID       ? "invalid"
                 : result == TIVEX_ACCOUNT_NOT_CHECKED ? "not checked"
@@ -108,7 +99,7 @@ void add_account_check(CLI::App& program, int& exit_status) {
       ->check(CLI::Validator(method_fault, ""));
   check->add_option("--bank-code", query->bank_code, "Bank code of 8 digits")
       ->type_name("CODE")
-      ->check(CLI::Validator(bank_code_fault, ""));
+      ->check(CLI::Validator(german_bank_code_fault, ""));
   check
       ->add_option("ACCOUNT", query->accounts, "Account numbers; - for the lines of standard input")
       ->type_name("")

@@ -63,17 +63,14 @@ int run(const std::vector<std::string>& ibans) {
 
 }  // namespace
 
-void add_iban_check(CLI::App& program, int& exit_status) {
-  CLI::App* const iban = program.add_subcommand("iban", "Work with IBANs");
-  iban->require_subcommand(1);
-  iban->footer(example);
-  CLI::App* const check = iban->add_subcommand("check", "Tell for each IBAN whether it is valid");
-  const auto ibans = std::make_shared<std::vector<std::string>>();
-  check->add_option("IBAN", *ibans, "IBANs to check; - for the lines of standard input")
+void add_iban_check(CLI::App& ibans, int& exit_status) {
+  CLI::App* const check = ibans.add_subcommand("check", "Tell for each IBAN whether it is valid");
+  const auto arguments = std::make_shared<std::vector<std::string>>();
+  check->add_option("IBAN", *arguments, "IBANs to check; - for the lines of standard input")
       ->type_name("")
       ->required();
   check->footer(example);
-  check->callback([&exit_status, ibans] { exit_status = run(*ibans); });
+  check->callback([&exit_status, arguments] { exit_status = run(*arguments); });
 }
 
 }  // namespace tivex_program

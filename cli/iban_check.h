@@ -6,7 +6,7 @@ class App;
 
 namespace tivex_program {
 
-// Adds "iban check" to the program; when it runs it sets the exit status.
-void add_iban_check(CLI::App& program, int& exit_status);
+// Adds "check" to the commands for IBANs; when it runs it sets the exit status.
+void add_iban_check(CLI::App& ibans, int& exit_status);
 
 }  // namespace tivex_program

@@ -12,6 +12,7 @@
 #include "direct_debit.h"
 #include "exit_status.h"
 #include "iban_check.h"
+#include "iban_convert.h"
 
 namespace tivex_program {
 namespace {
@@ -25,7 +26,12 @@ int run(int argument_count, char** arguments) {
   program.footer("tivex COMMAND --help shows the command's options and an example.");
   add_payment_command(program, credit_transfer, exit_status);
   add_payment_command(program, direct_debit, exit_status);
-  add_iban_check(program, exit_status);
+  CLI::App* const ibans = program.add_subcommand("iban", "Work with IBANs");
+  ibans->require_subcommand(1);
+  ibans->footer("tivex iban COMMAND --help shows the command's options and an example.");
+  add_iban_check(*ibans, exit_status);
+  add_iban_convert(*ibans, exit_status);
+  add_iban_bic(*ibans, exit_status);
   add_bank(program, exit_status);
   add_account_check(program, exit_status);
   try {

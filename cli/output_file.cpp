@@ -9,6 +9,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #include "descriptor.h"
 
@@ -122,6 +124,11 @@ std::string replace_file(const std::string& path, std::string_view text) {
   temporary_file temporary(target);
   const mode_t mode = exists ? status.st_mode & 07777 : new_file_mode();
   return temporary.write(text, mode) && temporary.take_place_of(target) ? "" : reason();
+}
+
+bool same_file(const std::string& left, const std::string& right) {
+  std::error_code ignored;
+  return std::filesystem::equivalent(left, right, ignored);
 }
 
 }  // namespace tivex_program

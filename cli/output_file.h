@@ -15,4 +15,7 @@ std::string write_standard_output(std::string_view text);
 // of a failure, empty for none.
 std::string replace_file(const std::string& path, std::string_view text);
 
+// Whether two names lead to the same file.
+bool same_file(const std::string& left, const std::string& right);
+
 }  // namespace tivex_program

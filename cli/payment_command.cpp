@@ -1,14 +1,12 @@
 #include "payment_command.h"
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
-#include <map>
 #include <memory>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "delimiters.h"
 #include "diagnostics.h"
 #include "document_summary.h"
 #include "exit_status.h"
@@ -21,8 +19,6 @@
 
 namespace tivex_program {
 namespace {
-
-const std::map<std::string, char> delimiters = {{",", ','}, {";", ';'}, {"tab", '\t'}};
 
 struct payment_arguments {
   std::string rulebook = default_rulebook;
@@ -45,11 +41,6 @@ std::string set_header_value(tivex_t* message, const header_option& option,
   std::string fault = option.rule(value);
   if (fault.empty() && option.set(message, value.c_str()) != 1) fault = tivex_getError(message);
   return fault;
-}
-
-bool same_file(const std::string& left, const std::string& right) {
-  std::error_code ignored;
-  return std::filesystem::equivalent(left, right, ignored);
 }
 
 // Returns the names of the columns as a paragraph of the help text.

@@ -486,6 +486,53 @@ TIVEX_API int tivex_account_check(const char *account, int method);
  */
 TIVEX_API int tivex_account_check2(const char *account, const char *bank_code, int method);
 
+/* --- German IBANs from account number and bank code ------------------------ */
+
+/* What tivex_iban_convert reports besides its result. */
+#define TIVEX_CONVERSION_AS_GIVEN 0           /* made from what was given */
+#define TIVEX_CONVERSION_ACCOUNT_REPLACED 1   /* made with another account number */
+#define TIVEX_CONVERSION_BANK_UNKNOWN 10      /* bank code or successor not in the directory */
+#define TIVEX_CONVERSION_ACCOUNT_INVALID 11   /* by the bank's check-digit method */
+#define TIVEX_CONVERSION_BANK_REFUSES 12      /* the bank does not allow a conversion */
+#define TIVEX_CONVERSION_SUCCESSOR_USED 13    /* the bank code has a successor */
+#define TIVEX_CONVERSION_BANK_CODE_REPLACED 15 /* made with another bank code */
+#define TIVEX_CONVERSION_ACCOUNT_REFUSED 50   /* no IBAN for this account number */
+
+/*
+ * Makes the IBAN of a German account number and bank code by the IBAN rule of the
+ * bank (Deutsche Bundesbank, "IBAN-Regeln"): most state the standard IBAN, some
+ * another bank code or account number, some none. A bank code that has a
+ * successor is converted with the successor's.
+ *
+ * country:   "DE".
+ * account:   1 to 10 bytes; zeros on the left may be left out.
+ * bank_code: 8 bytes.
+ * iban:      35 bytes that receive the IBAN of 22 characters and NULs, or null.
+ *            Without an IBAN its first byte is NUL.
+ * status:    receives a TIVEX_CONVERSION_... value, also when no IBAN is made; or
+ *            null.
+ *
+ * Returns 1: the IBAN was made; 0: another country (or a bank with an unknown
+ * rule); -1: a null country, account or bank code, one of wrong length, an account
+ * that fails the check, or the bank states no IBAN; -3: the bank code or its
+ * successor is not in the directory, or a character is neither digit nor letter.
+ */
+TIVEX_API int tivex_iban_convert(const char *country, const char *account,
+                                 const char *bank_code, char *iban, unsigned char *status);
+
+/*
+ * Finds the BIC that belongs to an IBAN of AT, CH, LI or DE, for German banks with
+ * what their IBAN rules say about it. Only the country, the length and the bank
+ * code of the IBAN are looked at.
+ *
+ * bic: 12 bytes that receive the BIC of 11 characters and a NUL; 12 NULs when there
+ *      is none.
+ *
+ * Returns 1 (the BIC is empty when the bank has none), 0 (null or another country),
+ * -1 (wrong length for the country) or -3 (bank code not in the directory).
+ */
+TIVEX_API int tivex_iban_getBIC(const char *iban, char *bic);
+
 #ifdef __cplusplus
 }
 #endif

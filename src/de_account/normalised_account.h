@@ -45,9 +45,9 @@ class normalised_account {
     return number;
   }
 
-  // The characters from a position to the end.
-  std::string_view text(std::size_t first = 1) const {
-    return {text_ + first - 1, width - (first - 1)};
+  // The characters from a position to another one.
+  std::string_view text(std::size_t first = 1, std::size_t last = width) const {
+    return {text_ + first - 1, last - first + 1};
   }
 
  private:

@@ -88,8 +88,8 @@ TEST_P(Cases, EndAsTheirFileSays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, Cases,
-                         testing::Values("account_check", "bank", "faults", "iban_check", "output",
-                                         "rows", "usage"),
+                         testing::Values("account_check", "bank", "faults", "iban_check",
+                                         "iban_convert", "output", "rows", "usage"),
                          [](const auto& file) { return file.param; });
 
 TEST(Rows, AreWholeWhereBuffersEnd) {

@@ -8,6 +8,7 @@
 #include "edition_checks.h"
 #include "edition_files.h"
 #include "hash_construction.h"
+#include "rule_tables.h"
 #include "support/table.h"
 #include "switch_time.h"
 #include "table_sources.h"
@@ -44,10 +45,10 @@ std::string content_of(const fs::path& file) {
   return read_whole_file(file, faults).value_or("");
 }
 
-// The small edition with one text replaced by another, once, in one of its files.
-void copy_with_change(const fs::path& to, const std::string& file, const std::string& from,
-                      const std::string& into) {
-  fs::copy(small_edition, to, fs::copy_options::recursive);
+// A folder of facts with one text replaced by another, once, in one of its files.
+void copy_with_change(const fs::path& facts, const fs::path& to, const std::string& file,
+                      const std::string& from, const std::string& into) {
+  fs::copy(facts, to, fs::copy_options::recursive);
   std::string content = content_of(to / file);
   ASSERT_NE(content.find(from), std::string::npos) << from;
   content.replace(content.find(from), from.size(), into);
@@ -59,15 +60,21 @@ void copy_with_change(const fs::path& to, const std::string& file, const std::st
 }  // namespace
 
 TEST(Generator, MakesTheCommittedTables) {
-  std::size_t compared = 0;
-  for (const source_file& file : tables_of(TIVEX_EDITION)) {
-    EXPECT_TRUE(content_of(fs::path(TIVEX_TABLES) / file.name) == file.content)
-        << file.name << " is not what scripts/edition makes";
-    ++compared;
+  fault_list faults;
+  const std::pair<const char*, std::vector<source_file>> folders[] = {
+      {"directory/data", tables_of(TIVEX_EDITION)},
+      {"de_iban/data", generate_rule_tables(TIVEX_RULES, faults)}};
+  EXPECT_EQ(faults.all(), texts());
+  for (const auto& [name, files] : folders) {
+    const fs::path folder = fs::path(TIVEX_SOURCE) / name;
+    for (const source_file& file : files) {
+      EXPECT_TRUE(content_of(folder / file.name) == file.content)
+          << file.name << " is not what scripts/edition makes";
+    }
+    EXPECT_EQ(files.size(), static_cast<std::size_t>(std::distance(fs::directory_iterator(folder),
+                                                                   fs::directory_iterator())))
+        << "a file that is not generated stands among the tables";
   }
-  for (const auto& entry : fs::directory_iterator(TIVEX_TABLES))
-    compared -= entry.is_regular_file();
-  EXPECT_EQ(compared, 0u) << "a file that is not generated stands among the tables";
 }
 
 TEST(Generator, WritesBackWhatItReads) {
@@ -84,7 +91,7 @@ TEST(Generator, WritesBackWhatItReads) {
 
 TEST(Generator, ChangesOnlyWhatARowChanges) {
   const scratch_folder scratch;
-  copy_with_change(scratch.path, austrian_file_name, "\tWien\tAT", "\tGraz\tAT");
+  copy_with_change(small_edition, scratch.path, austrian_file_name, "\tWien\tAT", "\tGraz\tAT");
   const std::vector<source_file> before = tables_of(small_edition);
   const std::vector<source_file> after = tables_of(scratch.path);
   ASSERT_EQ(before.size(), after.size());
@@ -103,10 +110,17 @@ TEST(Generator, ChangesOnlyWhatARowChanges) {
 TEST(Generator, RefusesWithFileAndLine) {
   for (const row& r : read_table("edition/faults.tsv", 4)) {
     const scratch_folder scratch;
-    copy_with_change(scratch.path, r[0].str(), r[1].str(), r[2].str());
+    copy_with_change(small_edition, scratch.path, r[0].str(), r[1].str(), r[2].str());
     fault_list faults;
     const edition facts = read_edition(scratch.path, faults);
     EXPECT_TRUE(generate_tables(facts, faults).empty());
+    EXPECT_EQ(faults.all(), split(r[3].str(), "; ")) << r[2].str();
+  }
+  for (const row& r : read_table("edition/rule_faults.tsv", 4)) {
+    const scratch_folder scratch;
+    copy_with_change(TIVEX_RULES, scratch.path, r[0].str(), r[1].str(), r[2].str());
+    fault_list faults;
+    EXPECT_TRUE(generate_rule_tables(scratch.path, faults).empty());
     EXPECT_EQ(faults.all(), split(r[3].str(), "; ")) << r[2].str();
   }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <string>
 
 #include "utf8.h"
 
@@ -69,8 +70,7 @@ bool is_method(std::string_view text) { return text.size() == 2 && all_of(text, 
 
 bool is_iban_rule(std::string_view text) {
   constexpr unsigned last_rule = 57;
-  const bool is_number = !text.empty() && text.size() <= 4 && all_of(text, is_digit);
-  return is_number && (text == "0" || text[0] != '0') && number(text) / 100 <= last_rule;
+  return is_number(text) && text.size() <= 4 && number(text) / 100 <= last_rule;
 }
 
 bool is_country_or_empty(std::string_view text) {
@@ -78,6 +78,26 @@ bool is_country_or_empty(std::string_view text) {
 }
 bool is_austria(std::string_view text) { return text == "AT"; }
 bool is_germany(std::string_view text) { return text == "DE"; }
+
+bool is_number(std::string_view text) {
+  return !text.empty() && all_of(text, is_digit) && (text.size() == 1 || text[0] != '0');
+}
+
+bool is_account(std::string_view text) { return is_digits(text, 10); }
+bool is_prefix(std::string_view text) { return is_digits(text, 3) && text[0] != '0'; }
+
+bool is_german_iban(std::string_view text) {
+  constexpr std::size_t length = 22;
+  if (text.size() != length || !text.starts_with("DE") || !all_of(text.substr(2), is_digit)) {
+    return false;
+  }
+  // ISO 13616: country and check digits behind the rest, letters as 10 to 35.
+  int remainder = 0;
+  for (const char c : std::string(text.substr(4)) + "1314" + std::string(text.substr(2, 2))) {
+    remainder = (remainder * 10 + (c - '0')) % 97;
+  }
+  return remainder == 1;
+}
 
 bool is_record_text(std::string_view text) {
   if (text.starts_with(' ') || text.ends_with(' ')) return false;

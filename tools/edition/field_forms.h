@@ -29,6 +29,11 @@ bool is_country_or_empty(std::string_view text);
 bool is_austria(std::string_view text);
 bool is_germany(std::string_view text);
 
+bool is_number(std::string_view text);       // without zeros in front
+bool is_account(std::string_view text);      // 10 digits
+bool is_prefix(std::string_view text);       // 3 digits, the first not 0
+bool is_german_iban(std::string_view text);  // with right check digits
+
 // Text as a record can hold it: UTF-8 without control characters, '|' and
 // blanks at its ends. Empty is fine.
 bool is_record_text(std::string_view text);

@@ -5,8 +5,10 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "edition_files.h"
+#include "rule_tables.h"
 #include "table_sources.h"
 #include "whole_file.h"
 
@@ -15,16 +17,25 @@ namespace tivex_edition {
 namespace {
 
 struct generate_options {
-  std::string facts = "data/edition";
-  std::string tables = "src/directory/data";
+  std::string facts = "data";
+  std::string source = "src";
 };
+
+void write_files(const std::filesystem::path& folder, const std::vector<source_file>& files,
+                 fault_list& faults) {
+  if (!files.empty()) std::filesystem::create_directories(folder);
+  for (const source_file& file : files) {
+    write_whole_file(folder / file.name, file.content, faults);
+  }
+}
 
 int run(const generate_options& options) {
   fault_list faults;
-  const edition facts = read_edition(options.facts, faults);
-  for (const source_file& file : generate_tables(facts, faults)) {
-    write_whole_file(std::filesystem::path(options.tables) / file.name, file.content, faults);
-  }
+  const std::filesystem::path facts = options.facts;
+  const std::filesystem::path source = options.source;
+  write_files(source / "directory/data",
+              generate_tables(read_edition(facts / "edition", faults), faults), faults);
+  write_files(source / "de_iban/data", generate_rule_tables(facts / "iban_rules", faults), faults);
   for (const std::string& fault : faults.all()) std::cerr << fault << '\n';
   return faults.empty() ? 0 : 1;
 }
@@ -35,9 +46,9 @@ void add_generate(CLI::App& program, int& exit_status) {
   const auto options = std::make_shared<generate_options>();
   CLI::App* const command =
       program.add_subcommand("generate", "Write the library's tables from the edition's files");
-  command->add_option("--facts", options->facts, "Folder of the edition's files")
+  command->add_option("--facts", options->facts, "Folder of edition and iban_rules")
       ->capture_default_str();
-  command->add_option("--tables", options->tables, "Folder that the tables are written to")
+  command->add_option("--source", options->source, "Folder of the library's source")
       ->capture_default_str();
   command->callback([options, &exit_status] { exit_status = run(*options); });
 }
