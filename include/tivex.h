@@ -42,6 +42,8 @@
 #define TIVEX_API
 #endif
 
+#include <time.h>
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -532,6 +534,104 @@ TIVEX_API int tivex_iban_convert(const char *country, const char *account,
  * -1 (wrong length for the country) or -3 (bank code not in the directory).
  */
 TIVEX_API int tivex_iban_getBIC(const char *iban, char *bic);
+
+/* --- Bank statements -------------------------------------------------------- */
+
+/* Reads one statement file. The host creates a parser for every file. */
+typedef struct tivex_stmt_parser tivex_stmt_parser_t;
+
+/* The format of a file: SWIFT MT940, customer statement message. */
+#define TIVEX_FORMAT_MT940 1
+
+/*
+ * One entry of a statement: a tag 61 and the tag 86 that follows it. Texts are as
+ * the file has them, in the bank's encoding; they and the record belong to the
+ * parser. What the file does not hold is null, 0 or empty. Of dates only tm_mday,
+ * tm_mon and tm_year are set.
+ */
+typedef struct tivex_stmt_tx {
+  struct tm value_date;
+  struct tm booking_date;  /* entry date; all members 0 without one */
+  unsigned char reversal;  /* 1 for a reversal (mark RC or RD) */
+  double amount;           /* negative for a debit */
+  char type_code[4];       /* transaction type identification behind its N, such as TRF */
+  char *customer_ref;      /* reference for the account owner */
+  char *bank_ref;          /* reference of the bank, behind the slashes */
+  char *booking_text;      /* subfield 00 of tag 86 */
+  char *primanota;         /* subfield 10 */
+  int gvc;                 /* business transaction code, three digits */
+  int text_key_ext;        /* subfield 34, three digits */
+  char bank_code[13];      /* of the other side: bank code or BIC, up to 12 bytes */
+  char account_no[35];     /* of the other side: account number or IBAN, up to 34 bytes */
+  char name[56];           /* of the other side, up to 55 bytes */
+  char *purpose;           /* purpose without a keyword; line feeds between its lines */
+  char *eref;              /* EREF+ end-to-end reference */
+  char *kref;              /* KREF+ customer reference */
+  char *mref;              /* MREF+ mandate reference */
+  char *cred;              /* CRED+ creditor identifier */
+  char *debt;              /* DEBT+ debtor identifier */
+  char *purp;              /* PURP+ purpose code */
+  char *coam;              /* COAM+ compensation amount, decimal point */
+  char *oamt;              /* OAMT+ initial amount, decimal point */
+  char *svwz;              /* SVWZ+ remittance information */
+  char *abwa;              /* ABWA+ deviating debtor */
+  char *abwe;              /* ABWE+ deviating creditor */
+  struct tivex_stmt_tx *next; /* null after the statement's last entry */
+} tivex_stmt_tx_t;
+
+/* One statement, with what was said of texts and dates above. */
+typedef struct tivex_stmt {
+  char *reference;           /* tag 20 */
+  char *account;             /* tag 25; null when absent */
+  unsigned int statement_no; /* tag 28C */
+  unsigned int sequence_no;  /* tag 28C behind the slash; 0 when absent */
+  struct tm opening_date;    /* tag 60F or 60M */
+  struct tm closing_date;    /* tag 62F or 62M */
+  double opening_balance;    /* negative for a debit balance */
+  double closing_balance;    /* negative for a debit balance */
+  char opening_currency[4];  /* ISO 4217 */
+  char closing_currency[4];
+  tivex_stmt_tx_t *first_tx; /* entries in the order of the file */
+  tivex_stmt_tx_t *last_tx;
+  struct tivex_stmt *next;   /* null after the last statement */
+} tivex_stmt_t;
+
+/* Returns a new parser, which the host releases with tivex_stmt_parser_free, or
+   null when memory is exhausted. */
+TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
+
+/*
+ * Reads a file, once in the life of a parser.
+ *
+ * format: TIVEX_FORMAT_MT940.
+ * path:   the file, in the encoding of the system. Lines end with CR LF; a
+ *         statement begins with CR LF and ":20:".
+ *
+ * What does not fit the format ends a statement and is no error; a file without any
+ * statement is read successfully.
+ *
+ * Returns 1, or 0 with the reason in the parser's error text; for a null parser 0.
+ * Errors (%s the system's text): "Parser already used" (also after a load that
+ * failed), "Format not (yet) supported",
+ * "Error while allocating %lu bytes: %s", "Can't open input file: %s" (also for a
+ * null path), "Can't stat input file: %s", "Input file is empty",
+ * "Failed to allocate %li bytes", "Error while reading from file: %s". When memory is
+ * exhausted for the records, or the file begins with a NUL byte, the text stays
+ * empty; there are no statements then.
+ */
+TIVEX_API int tivex_stmt_parser_load(tivex_stmt_parser_t *parser, int format, const char *path);
+
+/* Returns the first statement; null when there is none and for a null parser. The
+   records and all they point to belong to the parser. */
+TIVEX_API tivex_stmt_t *tivex_stmt_parser_getStatement(tivex_stmt_parser_t *parser);
+
+/* Returns the reason of the failure, at most 255 bytes, empty before one; for a null
+   parser "invalid tivex_stmt_parser_t handle". The text belongs to the parser. */
+TIVEX_API const char *tivex_stmt_parser_getError(const tivex_stmt_parser_t *parser);
+
+/* Releases the parser with its statements and texts, all overwritten with zeros
+   before. Null is ignored. */
+TIVEX_API void tivex_stmt_parser_free(tivex_stmt_parser_t *parser);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,123 @@
+// Time of reading statement files by their size, ordinary ones and hostile shapes:
+// the bytes per second must not fall as files grow. memchr over the same bytes is the
+// limit.
+
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <functional>
+#include <string>
+
+#include "tivex.h"
+
+namespace {
+
+std::string repeated(const std::string& part, std::size_t size) {
+  std::string text;
+  text.reserve(size + part.size());
+  while (text.size() < size) text += part;
+  return text;
+}
+
+const std::string head =
+    "\r\n:20:STARTUMSE\r\n:25:10010010/0000012345\r\n:28C:00001/001\r\n"
+    ":60F:C261101EUR1000,00\r\n";
+const std::string tail = "\r\n:62F:C261130EUR1000,00\r\n-";
+const std::string entry =
+    "\r\n:61:2611021102DR12,34NDDTKREF+//B123\r\n:86:105?00FOLGELASTSCHRIFT?109248?20EREF+2026-11"
+    "-0001?21MREF+M-4711?22CRED+DE98ZZZ09999999999?23SVWZ+Strom November 2026 V\r\nertrag 4711 "
+    "?24Kunde 0815?30MARKDEF1100?31DE54100000000000012345?32STADTWERKE NORD?34992";
+
+std::string ordinary(std::size_t size) {
+  const std::string statement = head + repeated(entry, 20 * entry.size()) + tail;
+  return repeated(statement, size) + "\r\n";
+}
+
+// What makes a literal reading of the format quadratic.
+std::string bare_line_ends(std::size_t size) {
+  return head + entry + repeated("\r\n", size) + tail + "\r\n";
+}
+std::string question_marks(std::size_t size) {
+  return head + entry + repeated("?", size) + tail + "\r\n";
+}
+std::string subfield_marks(std::size_t size) {
+  return head + entry + repeated("?20?10?21", size) + tail + "\r\n";
+}
+std::string entries_without_type(std::size_t size) {
+  return head + repeated("\r\n:61:261102C1", size) + "\r\n";
+}
+std::string statements_without_type(std::size_t size) {
+  return repeated("\r\n:20:A\r\n:61:261102C1", size) + "\r\n";
+}
+std::string types_behind_all_entries(std::size_t size) {
+  return head + repeated("\r\n:61:261102C1", size) + repeated(",", size / 10) + "N\r\n";
+}
+std::string numbers_without_slash(std::size_t size) {
+  return head + repeated("\r\n:28C:1", size) + "\r\n";
+}
+std::string one_field(std::size_t size) {
+  return head + entry + "?60" + repeated("a word, ", size) + tail + "\r\n";
+}
+
+struct statement_file {
+  std::string path;
+  explicit statement_file(const std::string& text) {
+    char name[] = "/tmp/tivex_bench_XXXXXX";
+    const int file = mkstemp(name);
+    path = name;
+    std::ofstream(path, std::ios::binary) << text;
+    close(file);
+  }
+  ~statement_file() { std::remove(path.c_str()); }
+};
+
+double peak_memory() {
+  rusage usage = {};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_maxrss) * 1024;
+}
+
+void read_statements(benchmark::State& state, std::string (*shape)(std::size_t)) {
+  const auto size = static_cast<std::size_t>(state.range(0)) << 20;
+  const statement_file file(shape(size));
+  for (auto _ : state) {
+    tivex_stmt_parser_t* const parser = tivex_stmt_parser_new();
+    if (tivex_stmt_parser_load(parser, TIVEX_FORMAT_MT940, file.path.c_str()) != 1) {
+      state.SkipWithError("the file was not read");
+    }
+    tivex_stmt_parser_free(parser);
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(size));
+  state.counters["peak"] =
+      benchmark::Counter(peak_memory(), benchmark::Counter::kDefaults, benchmark::Counter::kIs1024);
+}
+
+#define READ(shape)                                \
+  BENCHMARK_CAPTURE(read_statements, shape, shape) \
+      ->RangeMultiplier(10)                        \
+      ->Range(1, 100)                              \
+      ->Unit(benchmark::kMillisecond)
+READ(ordinary);
+READ(bare_line_ends);
+READ(question_marks);
+READ(subfield_marks);
+READ(entries_without_type);
+READ(statements_without_type);
+READ(types_behind_all_entries);
+READ(numbers_without_slash);
+READ(one_field);
+
+// A byte that the ordinary file does not hold.
+void memchr_limit(benchmark::State& state) {
+  const std::string text = ordinary(static_cast<std::size_t>(state.range(0)) << 20);
+  for (auto _ : state) benchmark::DoNotOptimize(std::memchr(text.data(), '\x01', text.size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+BENCHMARK(memchr_limit)->RangeMultiplier(10)->Range(1, 100)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,85 @@
+#include "statements/mt940.h"
+
+#include <cstring>
+
+#include "core/wiped_object.h"
+#include "statements/mt940_lines.h"
+
+namespace tivex {
+
+namespace {
+
+struct tagged_line {
+  std::string_view tag;
+  line_reader* read;
+};
+
+line_outcome end_statement(mt940_progress&) { return line_outcome::statement_ends; }
+
+constexpr tagged_line tagged_lines[] = {
+    {":25:", read_account},          {":28C:", read_statement_number},
+    {":28:", read_statement_number}, {":60F:", read_opening_balance},
+    {":60M:", read_opening_balance}, {":61:", read_entry},
+    {":86:", read_information},      {":62F:", read_closing_balance},
+    {":62M:", read_closing_balance}, {"-", end_statement},
+};
+
+constexpr std::size_t line_end_length = 2;  // CR LF
+
+line_outcome read_line(mt940_progress& progress) {
+  for (const tagged_line& row : tagged_lines) {
+    if (starts_with(progress.line, progress.end, row.tag)) return row.read(progress);
+  }
+  return line_outcome::next_line;
+}
+
+// Reads lines until one ends the statement.
+line_outcome read_lines(mt940_progress& progress) {
+  for (;;) {
+    progress.line_end = find_line_end(progress.line, progress.end);
+    const line_outcome outcome = read_line(progress);
+    if (outcome != line_outcome::next_line) return outcome;
+    if (progress.line_end == nullptr) return line_outcome::statement_ends;
+    progress.line = progress.line_end + line_end_length;
+  }
+}
+
+void append(statement_parser& parser, tivex_stmt_t* statement) {
+  (parser.last == nullptr ? parser.first : parser.last->next) = statement;
+  parser.last = statement;
+}
+
+// Reads one statement after the other. False when memory is exhausted.
+bool read_statements(statement_parser& parser, mt940_progress& progress) {
+  constexpr std::string_view start = ":20:";
+  for (;;) {
+    char* const found = find_line_end(progress.line, progress.end, start);
+    if (found == nullptr) return true;
+    auto statement = make_wiped<tivex_stmt_t>();
+    if (!statement) return false;
+    statement->reference = found + line_end_length + start.size();
+    char* const reference_end = find_line_end(statement->reference, progress.end);
+    if (reference_end == nullptr) return true;
+    *reference_end = '\0';
+    progress.line = reference_end + line_end_length;
+    progress.statement = statement.get();
+    append(parser, statement.release());
+    if (read_lines(progress) == line_outcome::no_memory) return false;
+  }
+}
+
+}  // namespace
+
+int mt940_parse(statement_parser& parser, char* text) {
+  if (parser.mt940 == nullptr) return parser.fail("%s", "MT940 parser not initialized");
+  if (text == nullptr || *text == '\0') return 0;
+  mt940_progress progress(text, text + std::strlen(text));
+  if (read_statements(parser, progress)) return 1;
+  // The statements would point into a text that is not kept.
+  release_statements(parser.first);
+  parser.first = nullptr;
+  parser.last = nullptr;
+  return 0;
+}
+
+}  // namespace tivex

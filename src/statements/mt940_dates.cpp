@@ -1,0 +1,19 @@
+#include "statements/mt940_dates.h"
+
+#include "statements/mt940_text.h"
+
+namespace tivex {
+
+bool scan_date(std::string_view characters, std::tm& date) {
+  constexpr std::size_t width = 2;
+  number_scanner scanner(characters);
+  return scanner.read_signed(width, date.tm_year) && scanner.read_signed(width, date.tm_mon) &&
+         scanner.read_signed(width, date.tm_mday);
+}
+
+void complete_date(std::tm& date) {
+  if (date.tm_year <= 79) date.tm_year += 100;
+  --date.tm_mon;
+}
+
+}  // namespace tivex

@@ -1,0 +1,145 @@
+// Tag 86: information to the account owner, in numbered subfields.
+#include <algorithm>
+#include <cstring>
+
+#include "statements/mt940_lines.h"
+#include "statements/purpose_text.h"
+#include "validation/ascii.h"
+
+namespace tivex {
+
+namespace {
+
+constexpr std::size_t tag_length = 4;   // ":86:"
+constexpr std::size_t mark_length = 3;  // "?20"
+constexpr int subfield_count = 100;
+constexpr int no_subfield = -1;
+
+// Removes the line ends from a field and ends it with NUL. Returns its new end.
+char* join_lines(char* from, char* end) {
+  char* to = from;
+  while (from < end) {
+    char* line_end = find_line_end(from, end);
+    if (line_end == nullptr) line_end = end;
+    const auto length = static_cast<std::size_t>(line_end - from);
+    std::memmove(to, from, length);
+    to += length;
+    from = line_end + 2;
+  }
+  *to = '\0';
+  return to;
+}
+
+// The number of the subfield that begins here; no_subfield when none does.
+int subfield_at(const char* at, const char* end) {
+  if (end - at < static_cast<std::ptrdiff_t>(mark_length) || *at != '?') return no_subfield;
+  if (!is_digit(at[1]) || !is_digit(at[2])) return no_subfield;
+  return (at[1] - '0') * 10 + (at[2] - '0');
+}
+
+char* find_mark(char* from, char* end) {
+  if (from >= end) return end;
+  auto* const found =
+      static_cast<char*>(std::memchr(from, '?', static_cast<std::size_t>(end - from)));
+  return found == nullptr ? end : found;
+}
+
+// The subfields of a field, whose numbers rise. A question mark may also stand in a
+// text: a subfield ends at the first mark with a higher number, or rather at the last
+// mark behind that with the next number.
+class subfields {
+ public:
+  subfields(char* field, char* end) : end_(end) {
+    for (char* at = find_mark(field, end); at < end; at = find_mark(at + 1, end)) {
+      const int number = subfield_at(at, end);
+      if (number != no_subfield) last_[number] = at;
+    }
+  }
+
+  // Where the content behind a mark with this number ends.
+  char* end_of(int number, char* content) const {
+    char* candidate = find_mark(content, end_);
+    while (candidate < end_ && subfield_at(candidate, end_) <= number) {
+      candidate = find_mark(candidate + 1, end_);
+    }
+    if (candidate == end_ || number + 1 == subfield_count) return candidate;
+    return last_[number + 1] == nullptr ? candidate : std::max(candidate, last_[number + 1]);
+  }
+
+ private:
+  char* end_;
+  char* last_[subfield_count] = {};  // mark with each number
+};
+
+void append_name(tivex_stmt_tx_t& entry, std::string_view rest) {
+  constexpr std::size_t full_line = 27;
+  std::size_t used = std::strlen(entry.name);
+  if (used < full_line) entry.name[used++] = ' ';
+  copy_text(entry.name, rest, used);
+}
+
+bool is_purpose(int number) {
+  return (number >= 20 && number <= 29) || (number >= 60 && number <= 63);
+}
+
+void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* content, char* end) {
+  if (is_purpose(number)) return purpose.add(content, end);
+  const std::string_view text = between(content, end);
+  switch (number) {
+    case 0:
+      entry.booking_text = content;
+      *end = '\0';
+      break;
+    case 10:
+      entry.primanota = content;
+      *end = '\0';
+      break;
+    case 30:
+      copy_text(entry.bank_code, text);
+      break;
+    case 31:
+      copy_text(entry.account_no, text);
+      break;
+    case 32:
+      copy_text(entry.name, text);
+      break;
+    case 33:
+      append_name(entry, text);
+      break;
+    case 34:
+      number_scanner(between(content, step(content, end, 3))).read_signed(3, entry.text_key_ext);
+      break;
+    default:
+      break;
+  }
+}
+
+void read_subfields(tivex_stmt_tx_t& entry, char* field, char* end) {
+  const subfields marks(field, end);
+  purpose_text purpose(entry);
+  char* mark = find_mark(field, end);
+  for (int number = subfield_at(mark, end); number != no_subfield;) {
+    char* const content = mark + mark_length;
+    mark = marks.end_of(number, content);
+    const int next_number = subfield_at(mark, end);
+    store(entry, purpose, number, content, mark);
+    number = next_number;
+  }
+}
+
+}  // namespace
+
+line_outcome read_information(mt940_progress& progress) {
+  if (progress.entry == nullptr) return line_outcome::statement_ends;
+  char* const field = progress.at(tag_length);
+  char* const next_tag = find_line_end(progress.line, progress.end, ":");
+  char* const field_end = next_tag == nullptr ? progress.end : join_lines(field, next_tag);
+  number_scanner(between(field, step(field, field_end, 3))).read_signed(3, progress.entry->gvc);
+  // Without a tag behind it the field's end is unknown.
+  if (next_tag == nullptr) return line_outcome::statement_ends;
+  read_subfields(*progress.entry, field, field_end);
+  progress.line_end = next_tag;
+  return line_outcome::next_line;
+}
+
+}  // namespace tivex

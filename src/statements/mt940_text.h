@@ -1,0 +1,77 @@
+// Reading steps on a text of known end, none of which goes past it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace tivex {
+
+// The next CR LF that these characters follow; null when there is none. What goes
+// before `from` is not looked at.
+char* find_line_end(char* from, char* end, std::string_view followed_by = "");
+
+inline bool starts_with(const char* at, const char* end, std::string_view text) {
+  return static_cast<std::size_t>(end - at) >= text.size() &&
+         std::memcmp(at, text.data(), text.size()) == 0;
+}
+
+// Where the text goes on some characters further, at its end at the latest.
+inline char* step(char* at, const char* end, std::size_t count) {
+  const auto left = static_cast<std::size_t>(end - at);
+  return at + (count < left ? count : left);
+}
+
+inline std::string_view between(const char* from, const char* to) {
+  return {from, static_cast<std::size_t>(to - from)};
+}
+
+// Copies as much as there is room for, behind the bytes that are used already.
+template <std::size_t size>
+void copy_text(char (&field)[size], std::string_view text, std::size_t used = 0) {
+  const std::size_t room = size - 1 - used;
+  const std::size_t length = text.size() < room ? text.size() : room;
+  std::memcpy(field + used, text.data(), length);
+  field[used + length] = '\0';
+}
+
+// The first comma, if there is one, becomes a point.
+void point_for_comma(char* from, const char* to);
+
+// Reads numbers from a few characters as scanf does with %Nd and %u: leading white
+// space is skipped, a sign is taken.
+class number_scanner {
+ public:
+  explicit number_scanner(std::string_view characters) : rest_(characters) {}
+
+  // At most so many characters, the sign among them.
+  bool read_signed(std::size_t width, int& value);
+  // Any number of digits; what is beyond 64 bits counts as the largest of them, and
+  // of those the low 32 bits are taken.
+  bool read_unsigned(std::uint32_t& value);
+  bool skip(char character);
+
+ private:
+  // The sign, and where the digits begin.
+  bool skip_to_digits(std::size_t& width);
+
+  std::string_view rest_;
+};
+
+// The first of one character from a place on, for places that only grow: each
+// stretch of the text is searched once.
+class next_character {
+ public:
+  next_character(char character, char* end) : character_(character), end_(end) {}
+
+  // The text's end when there is none.
+  char* find(char* from);
+
+ private:
+  char character_;
+  char* end_;
+  char* found_ = nullptr;
+};
+
+}  // namespace tivex

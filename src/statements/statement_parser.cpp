@@ -1,0 +1,71 @@
+// The exported functions of the statement parser.
+#include "statements/statement_parser.h"
+
+#include <cerrno>
+
+#include "core/wiped_object.h"
+#include "platform/input_file.h"
+#include "statements/load_file.h"
+
+namespace tivex {
+
+mt940_state::~mt940_state() {
+  if (text != nullptr) platform::wipe(text, size);
+  std::free(text);
+}
+
+statement_parser::~statement_parser() {
+  release_statements(first);
+  destroy_wiped(mt940);
+}
+
+void release_statements(tivex_stmt_t* first) {
+  while (first != nullptr) {
+    tivex_stmt_t* const statement = first;
+    first = statement->next;
+    for (tivex_stmt_tx_t* entry = statement->first_tx; entry != nullptr;) {
+      tivex_stmt_tx_t* const done = entry;
+      entry = entry->next;
+      destroy_wiped(done);
+    }
+    destroy_wiped(statement);
+  }
+}
+
+namespace {
+
+int load(statement_parser& parser, std::int32_t format, const char* path) {
+  if (parser.format != 0) return parser.fail("%s", "Parser already used");
+  parser.format = format;
+  if (format != TIVEX_FORMAT_MT940) return parser.fail("%s", "Format not (yet) supported");
+  parser.mt940 = make_wiped<mt940_state>().release();
+  if (parser.mt940 == nullptr) {
+    char buffer[128];
+    return parser.fail("Error while allocating %lu bytes: %s",
+                       static_cast<unsigned long>(sizeof(mt940_state)),
+                       platform::error_text(errno, buffer, sizeof buffer));
+  }
+  return load_file(parser, path);
+}
+
+}  // namespace
+
+}  // namespace tivex
+
+tivex_stmt_parser_t* tivex_stmt_parser_new() {
+  return tivex::make_wiped<tivex_stmt_parser_t>().release();
+}
+
+int tivex_stmt_parser_load(tivex_stmt_parser_t* parser, int format, const char* path) {
+  return parser == nullptr ? 0 : tivex::load(*parser, format, path);
+}
+
+tivex_stmt_t* tivex_stmt_parser_getStatement(tivex_stmt_parser_t* parser) {
+  return parser == nullptr ? nullptr : parser->first;
+}
+
+const char* tivex_stmt_parser_getError(const tivex_stmt_parser_t* parser) {
+  return parser == nullptr ? "invalid tivex_stmt_parser_t handle" : parser->error;
+}
+
+void tivex_stmt_parser_free(tivex_stmt_parser_t* parser) { tivex::destroy_wiped(parser); }
