@@ -552,8 +552,8 @@ typedef struct tivex_stmt_parser tivex_stmt_parser_t;
 typedef struct tivex_stmt_tx {
   struct tm value_date;
   struct tm booking_date;  /* entry date; all members 0 without one */
-  unsigned char reversal;  /* 1 for a reversal (mark RC or RD) */
-  double amount;           /* negative for a debit */
+  unsigned char reversal;  /* 1 for a reversal (mark RC or RD), which takes the amount back */
+  double amount;           /* negative for the mark D, also in RD */
   char type_code[4];       /* transaction type identification behind its N, such as TRF */
   char *customer_ref;      /* reference for the account owner */
   char *bank_ref;          /* reference of the bank, behind the slashes */

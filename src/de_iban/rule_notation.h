@@ -27,9 +27,10 @@ using rule_step = void(rule_input& input);
 
 // The IBAN of bank code and account as they are.
 inline rule_result iban_build_standard(char* iban, rule_input& input) {
-  std::memcpy(iban, "DE00", 4);
-  std::memcpy(iban + 4, input.bank_code, bank_code_length);
-  std::memcpy(iban + 4 + bank_code_length, input.account, account_length);
+  constexpr std::string_view head = "DE00";
+  std::memcpy(iban, head.data(), head.size());
+  std::memcpy(iban + head.size(), input.bank_code, bank_code_length);
+  std::memcpy(iban + head.size() + bank_code_length, input.account, account_length);
   return MADE;
 }
 

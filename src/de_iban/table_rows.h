@@ -19,8 +19,9 @@ struct account_row {
   char account[11];
 };
 
-// The accounts of a former branch, by their first three digits.
-struct account_range {
+// The accounts of a former branch, by their first three digits; in the order in
+// which the banks' table has them.
+struct account_range {  // NOLINT(clang-analyzer-optin.performance.Padding)
   std::uint16_t prefix;
   char former_bank_code[9];
   std::uint64_t low;

@@ -18,7 +18,7 @@ class input_file {
   bool open(const char* path);
   bool get_size(std::int64_t& bytes) const;
   // The number of bytes read, 0 at the end, -1 on failure.
-  std::ptrdiff_t read(char* buffer, std::size_t size);
+  std::ptrdiff_t read(char* buffer, std::size_t size) const;
 
  private:
   int descriptor_ = -1;

@@ -37,7 +37,7 @@ bool input_file::get_size(std::int64_t& bytes) const {
   return true;
 }
 
-std::ptrdiff_t input_file::read(char* buffer, std::size_t size) {
+std::ptrdiff_t input_file::read(char* buffer, std::size_t size) const {
   return ::read(descriptor_, buffer, size);
 }
 

@@ -30,7 +30,7 @@ bool input_file::get_size(std::int64_t& bytes) const {
   return true;
 }
 
-std::ptrdiff_t input_file::read(char* buffer, std::size_t size) {
+std::ptrdiff_t input_file::read(char* buffer, std::size_t size) const {
   constexpr std::size_t most_at_once = 1u << 30;
   return _read(descriptor_, buffer, static_cast<unsigned>(std::min(size, most_at_once)));
 }

@@ -35,7 +35,7 @@ struct text_block {
 
 // Reads up to `wanted` bytes; fewer when the file has become shorter. Returns false
 // on a failure.
-bool read_whole(platform::input_file& file, char* text, std::size_t wanted) {
+bool read_whole(const platform::input_file& file, char* text, std::size_t wanted) {
   std::size_t arrived = 0;
   while (arrived < wanted) {
     const std::ptrdiff_t count = file.read(text + arrived, wanted - arrived);

@@ -1,6 +1,8 @@
 #include "statements/purpose_text.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "statements/mt940_text.h"
 
@@ -35,13 +37,13 @@ void purpose_text::begin(text_field field, char* text, char* end) {
 }
 
 bool purpose_text::begin_keyword(char* content, char* end) {
-  for (const keyword_row& row : keywords) {
-    if (!starts_with(content, end, row.keyword)) continue;
-    begin(row.field, content + keyword_length, end);
-    if (row.is_amount) point_for_comma(content + keyword_length, end);
-    return true;
-  }
-  return false;
+  const auto* const row = std::find_if(
+      std::begin(keywords), std::end(keywords),
+      [&](const keyword_row& candidate) { return starts_with(content, end, candidate.keyword); });
+  if (row == std::end(keywords)) return false;
+  begin(row->field, content + keyword_length, end);
+  if (row->is_amount) point_for_comma(content + keyword_length, end);
+  return true;
 }
 
 // Lines of 27 characters, and 22 behind a keyword, are full: words run on.

@@ -97,7 +97,8 @@ TEST(Statements, OfTheExampleAddUpToTheirClosingBalances) {
   for (auto* s = tivex_stmt_parser_getStatement(parser.get()); s != nullptr; s = s->next) {
     long long cents = std::llround(s->opening_balance * 100);
     for (auto* entry = s->first_tx; entry != nullptr; entry = entry->next) {
-      cents += std::llround(entry->amount * 100);
+      // A reversal takes its amount back.
+      cents += (entry->reversal ? -1 : 1) * std::llround(entry->amount * 100);
     }
     EXPECT_EQ(cents, std::llround(s->closing_balance * 100)) << s->reference;
   }

@@ -125,6 +125,7 @@ std::vector<source_file> generate_rule_tables(const std::filesystem::path& folde
   }
   if (!faults.empty()) return {};
   std::vector<source_file> files;
+  files.reserve(headers.size());
   for (const auto& [name, arrays] : headers) {
     files.push_back({name, std::string(generated_head) +
                                "#pragma once\n\n#include \"de_iban/table_rows.h\"\n\n"
