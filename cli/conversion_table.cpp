@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "csv_cell.h"
 #include "csv_reader.h"
 #include "iban_conversion.h"
 #include "progress_line.h"
@@ -13,16 +14,6 @@ namespace {
 
 const std::vector<std::string> added_columns = {"iban", "bic", "bank", "status"};
 
-// In quotes where the cell could be read otherwise.
-std::string quoted(const std::string& cell, char delimiter) {
-  const bool plain = cell.find_first_of(std::string("\"\r\n") + delimiter) == std::string::npos &&
-                     !cell.starts_with(' ') && !cell.ends_with(' ');
-  if (plain) return cell;
-  std::string text = "\"";
-  for (const char c : cell) text += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return text + '"';
-}
-
 void append_row(std::string& text, const std::vector<std::string>& cells,
                 const std::vector<std::string>& added, char delimiter) {
   bool first = true;
@@ -30,7 +21,7 @@ void append_row(std::string& text, const std::vector<std::string>& cells,
     for (const std::string& cell : *part) {
       if (!first) text += delimiter;
       first = false;
-      text += quoted(cell, delimiter);
+      text += csv_cell(cell, delimiter);
     }
   }
   text += '\n';

@@ -27,4 +27,10 @@ struct bank_deleter {
 };
 using bank_handle = std::unique_ptr<tivex_bank_info_t, bank_deleter>;
 
+// The library overwrites the account data that a parser holds.
+struct statement_parser_deleter {
+  void operator()(tivex_stmt_parser_t* parser) const { tivex_stmt_parser_free(parser); }
+};
+using statement_parser_handle = std::unique_ptr<tivex_stmt_parser_t, statement_parser_deleter>;
+
 }  // namespace tivex_program

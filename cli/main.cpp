@@ -13,6 +13,7 @@
 #include "exit_status.h"
 #include "iban_check.h"
 #include "iban_convert.h"
+#include "statement.h"
 
 namespace tivex_program {
 namespace {
@@ -34,6 +35,7 @@ int run(int argument_count, char** arguments) {
   add_iban_bic(*ibans, exit_status);
   add_bank(program, exit_status);
   add_account_check(program, exit_status);
+  add_statement(program, exit_status);
   try {
     program.parse(argument_count, arguments);
   } catch (const CLI::RequiredError& error) {

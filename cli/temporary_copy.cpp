@@ -1,0 +1,43 @@
+#include "temporary_copy.h"
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "descriptor.h"
+
+namespace tivex_program {
+namespace {
+
+std::string name_template() {
+  const char* const directory = std::getenv("TMPDIR");
+  const bool usual = directory == nullptr || *directory == '\0';
+  return std::string(usual ? "/tmp" : directory) + "/tivex-XXXXXX";
+}
+
+bool write_all(int file, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t count = ::write(file, text.data(), text.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
+}  // namespace
+
+temporary_copy::temporary_copy(std::string_view text) : path_(name_template()) {
+  descriptor file(::mkostemp(path_.data(), O_CLOEXEC));
+  exists_ = static_cast<bool>(file);
+  if (!exists_ || !write_all(file.number(), text) || !file.close()) error_ = std::strerror(errno);
+}
+
+temporary_copy::~temporary_copy() {
+  if (exists_) ::unlink(path_.c_str());
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+namespace tivex_program {
+
+// Overwrites memory before releasing it, also that which a growing vector leaves.
+template <typename element>
+struct wiping_allocator {
+  using value_type = element;
+
+  wiping_allocator() = default;
+  template <typename other>
+  wiping_allocator(const wiping_allocator<other>&) {}
+
+  element* allocate(std::size_t count) { return std::allocator<element>().allocate(count); }
+  void deallocate(element* memory, std::size_t count) {
+    explicit_bzero(memory, count * sizeof(element));
+    std::allocator<element>().deallocate(memory, count);
+  }
+  bool operator==(const wiping_allocator&) const = default;
+};
+
+// Bytes that hold account data.
+using wiped_bytes = std::vector<char, wiping_allocator<char>>;
+
+}  // namespace tivex_program
