@@ -6,28 +6,18 @@
 
 #include <cerrno>
 #include <climits>
-#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
 
 #include "descriptor.h"
+#include "signals_held.h"
 
 namespace tivex_program {
 namespace {
 
 std::string reason() { return std::strerror(errno); }
-
-bool write_all(int file, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t count = ::write(file, text.data(), text.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return true;
-}
 
 // Returns what the links lead to, which need not exist.
 std::string follow_links(std::string path) {
@@ -66,7 +56,7 @@ class temporary_file {
   temporary_file& operator=(const temporary_file&) = delete;
 
   bool write(std::string_view text, mode_t mode) {
-    return exists_ && write_all(file_.number(), text) && ::fchmod(file_.number(), mode) == 0 &&
+    return exists_ && file_.write_all(text) && ::fchmod(file_.number(), mode) == 0 &&
            ::fsync(file_.number()) == 0 && file_.close();
   }
   bool take_place_of(const std::string& target) {
@@ -81,34 +71,16 @@ class temporary_file {
   bool exists_ = false;
 };
 
-// Holds back the signals that would end the program and leave the temporary
-// file behind; they arrive when the file is complete.
-class signals_held {
- public:
-  signals_held() {
-    sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : {SIGHUP, SIGINT, SIGTERM}) sigaddset(&held, signal);
-    sigprocmask(SIG_BLOCK, &held, &before_);
-  }
-  ~signals_held() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
-  signals_held(const signals_held&) = delete;
-  signals_held& operator=(const signals_held&) = delete;
-
- private:
-  sigset_t before_{};
-};
-
 std::string write_directly(const std::string& path, std::string_view text) {
   descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
-  return file && write_all(file.number(), text) && file.close() ? "" : reason();
+  return file && file.write_all(text) && file.close() ? "" : reason();
 }
 
 }  // namespace
 
 std::string write_standard_output(std::string_view text) {
   descriptor copy(::dup(STDOUT_FILENO));
-  return copy && write_all(copy.number(), text) && copy.close() ? "" : reason();
+  return copy && copy.write_all(text) && copy.close() ? "" : reason();
 }
 
 std::string replace_file(const std::string& path, std::string_view text) {

@@ -18,22 +18,12 @@ std::string name_template() {
   return std::string(usual ? "/tmp" : directory) + "/tivex-XXXXXX";
 }
 
-bool write_all(int file, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t count = ::write(file, text.data(), text.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return true;
-}
-
 }  // namespace
 
 temporary_copy::temporary_copy(std::string_view text) : path_(name_template()) {
   descriptor file(::mkostemp(path_.data(), O_CLOEXEC));
   exists_ = static_cast<bool>(file);
-  if (!exists_ || !write_all(file.number(), text) || !file.close()) error_ = std::strerror(errno);
+  if (!exists_ || !file.write_all(text) || !file.close()) error_ = std::strerror(errno);
 }
 
 temporary_copy::~temporary_copy() {
