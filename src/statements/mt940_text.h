@@ -13,8 +13,12 @@ namespace tivex {
 char* find_line_end(char* from, char* end, std::string_view followed_by = "");
 
 inline bool starts_with(const char* at, const char* end, std::string_view text) {
-  return static_cast<std::size_t>(end - at) >= text.size() &&
-         std::memcmp(at, text.data(), text.size()) == 0;
+  if (static_cast<std::size_t>(end - at) < text.size()) return false;
+  // Mostly the first character tells already.
+  for (const char character : text) {
+    if (*at++ != character) return false;
+  }
+  return true;
 }
 
 // Where the text goes on some characters further, at its end at the latest.
