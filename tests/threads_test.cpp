@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
 #include <thread>
 
@@ -43,4 +44,31 @@ TEST(Threads, WriteMessagesOfTheirOwnWithIdentifiersOfTheirOwn) {
   std::set<std::string> different;
   for (const auto& of_thread : identifiers) different.insert(of_thread.begin(), of_thread.end());
   EXPECT_EQ(different.size(), 200u);
+}
+
+TEST(Threads, MayLookUpCheckAndConvertTogether) {
+  run_together(4, [](std::size_t index) {
+    for (int repeat = 0; repeat < 50; ++repeat) {
+      char iban[35];
+      unsigned char status = 0;
+      EXPECT_EQ(tivex_iban_convert("DE", "532013000", "37040044", iban, &status), 1);
+      EXPECT_EQ(tivex_iban_check(iban), 1);
+      EXPECT_EQ(tivex_bic_getBank(index % 2 == 0 ? "MARKDEFF" : "COBADEFF", nullptr), 1);
+      tivex_bank_info_t* bank = nullptr;
+      ASSERT_EQ(tivex_bankid_check("DE", "30040098", &bank), 1);
+      EXPECT_STREQ(bank->country, "DE");
+      std::free(bank);
+    }
+  });
+}
+
+TEST(Threads, MayReadStatementsWithParsersOfTheirOwn) {
+  run_together(4, [](std::size_t) {
+    for (int repeat = 0; repeat < 5; ++repeat) {
+      tivex_stmt_parser_t* const parser = tivex_stmt_parser_new();
+      EXPECT_EQ(tivex_stmt_parser_load(parser, 1, TIVEX_SOURCE "/../examples/statement.sta"), 1);
+      EXPECT_NE(tivex_stmt_parser_getStatement(parser), nullptr);
+      tivex_stmt_parser_free(parser);
+    }
+  });
 }
