@@ -239,6 +239,15 @@ TIVEX_API int tivex_setBatchBooking(tivex_t *msg, unsigned char mode);
 TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
 
 /*
+ * Chooses how tivex_toXML writes the message: in the prescribed form, whatever
+ * the schema says of its values (mode 0, the default), or only as a document that
+ * its schema accepts (mode 1, the strict mode; see tivex_toXML).
+ *
+ * Errors: "Invalid strict mode (only 0 or 1 allowed)".
+ */
+TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
+
+/*
  * Adds one transaction: to a credit transfer message a payment from the
  * message's own account to a creditor, to a direct debit message a collection
  * from a debtor's account to the message's own. The "other side" below is that
@@ -348,6 +357,14 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * seven digits from the process identifier and a process-wide counter. A message
  * may be written repeatedly.
  *
+ * In the strict mode (tivex_setStrict) the document is valid by its ISO 20022
+ * schema and, under a German rulebook, by the subset of it that the German banking
+ * industry prescribes and German banks check. Against the prescribed form the
+ * execution date of pain.001.001.09 stands within Dt, and elements that would be
+ * empty are left out where the schema can do without them. A message that cannot
+ * become such a document is refused before anything is written; values are never
+ * altered. docs/schemas.md tells what each schema asks for.
+ *
  * Returns a new NUL-terminated text that the host owns and releases with the C
  * run-time's free() (it holds account data: overwrite it first where that
  * matters), or null with the reason in the message's error text. For a null
@@ -360,6 +377,22 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * "Missing creditor identifier", "No transactions available" and
  * "Unknown/unsupported LocalInstrumentCode (setDDType)" (COR1 from "DE-3.0" on).
  * When memory is exhausted the error text may stay as it was.
+ * In the strict mode also the first flaw of the values: those of the header stand
+ * before those of the transactions, which stand in the order of adding (counted
+ * from 1), and sums come last; "%s" is the key at the first place and the schema
+ * version at the second:
+ *   "message: %s ..." with IBAN, BIC, name, creditor identifier, date, message id,
+ *   transactions, sum or local instrument COR1, "transaction %u: %s ..." with a
+ *   key of tivex_add, and
+ *   "missing (required by %s)", "is not a calendar date (required by %s)",
+ *   "has character '%c' (not allowed by %s)",
+ *   "has byte 0x%02X (not allowed by %s)" (by the schema's version, or by XML),
+ *   "above 999999999.99 (not allowed by %s)",
+ *   "of more than 18 digits (not allowed by %s)", "not allowed by %s",
+ *   "is not two letters, two digits, business code and national identifier
+ *   (required by %s)", "above %u bytes, payment ids above 35 (not allowed by %s)"
+ *   (they are the message's with "-P" and the block's number).
+ * For instance "transaction 17: name missing (required by pain.001.001.09)".
  */
 TIVEX_API char *tivex_toXML(tivex_t *msg);
 

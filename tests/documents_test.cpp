@@ -48,7 +48,7 @@ TEST(Documents, AreWrittenByteForByte) {
               read_data("documents/" + name));
     ++count;
   }
-  EXPECT_GE(count, 31);
+  EXPECT_GE(count, 33);
 }
 
 TEST(Documents, NeedARulebook) {

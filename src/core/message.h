@@ -29,6 +29,7 @@ struct message {
   std::uint8_t batch_booking = 1;
   transaction* first = nullptr;  // records of the kind that `type` names, linked by `next`
   transaction* last = nullptr;
+  std::uint8_t strict = 0;  // 1: only documents that their schema accepts are written
 
   // Both note the reason of a failure and give back the result of one.
   bool fail(const char* reason);

@@ -80,6 +80,12 @@ bool set_batch_booking(message& msg, unsigned char mode) {
   return true;
 }
 
+bool set_strict(message& msg, unsigned char mode) {
+  if (mode > 1) return msg.fail("Invalid strict mode (only 0 or 1 allowed)");
+  msg.strict = mode;
+  return true;
+}
+
 bool set_message_id(message& msg, const char* id) {
   // The set is the same under every rulebook.
   const auto admitted = [](const char* text) {
@@ -126,4 +132,8 @@ int tivex_setBatchBooking(tivex_t* msg, unsigned char mode) {
 
 int tivex_setMessageId(tivex_t* msg, const char* id) {
   return msg != nullptr && tivex::set_message_id(*msg, id);
+}
+
+int tivex_setStrict(tivex_t* msg, unsigned char mode) {
+  return msg != nullptr && tivex::set_strict(*msg, mode);
 }

@@ -10,4 +10,8 @@ bool has_date_length(const char* text);
 // asked.
 bool scan_date(const char* text);
 
+// Whether a text is a day of the Gregorian calendar, "yyyy-mm-dd" from the year 1
+// on.
+bool is_calendar_date(const char* text);
+
 }  // namespace tivex

@@ -5,10 +5,20 @@
 #include "xml/document_frame.h"
 #include "xml/document_stamp.h"
 #include "xml/parties.h"
+#include "xml/schema_check.h"
 
 namespace tivex {
 
 namespace {
+
+// Where the date could have been a time as well, the prescribed form does not say
+// which it is; the schema asks for that.
+void write_execution_date(document_writer& out, const message& msg, const document_schema& schema,
+                          const char* date) {
+  if (msg.strict == 0 || !schema.date_or_time) return out.value("ReqdExctnDt", date);
+  const element execution(out, "ReqdExctnDt");
+  out.value("Dt", date);
+}
 
 void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
                           const payment_block<ct_transaction>& block, int number) {
@@ -17,7 +27,7 @@ void write_payment_header(document_writer& out, const message& msg, const docume
     const element type(out, "PmtTpInf");
     write_service_level(out);
   }
-  out.value("ReqdExctnDt", block.date);
+  write_execution_date(out, msg, schema, block.date);
   write_party(out, "Dbtr", msg.name);
   write_account(out, "DbtrAcct", msg.iban);
   write_agent(out, "DbtrAgt", schema, msg.bic);
@@ -25,7 +35,7 @@ void write_payment_header(document_writer& out, const message& msg, const docume
 }
 
 void write_creditor(document_writer& out, const ct_transaction& tx) {
-  const element creditor(out, "Cdtr");
+  const optional_element creditor(out, "Cdtr");
   out.optional_escaped("Nm", tx.name);
   write_address(out, tx);
 }
@@ -37,7 +47,7 @@ void write_purpose(document_writer& out, const ct_transaction& tx) {
 }
 
 void write_remittance(document_writer& out, const ct_transaction& tx) {
-  const element remittance(out, "RmtInf");
+  const optional_element remittance(out, "RmtInf");
   out.optional_escaped("Ustrd", tx.remittance);
 }
 
@@ -72,6 +82,7 @@ bool cti_toXML(message& msg, xml_buffer_t& out) {
                               .initiation = "CstmrCdtTrfInitn",
                               .typical_transaction_bytes = 1200,
                               .moment = moment};
+  if (msg.strict != 0 && !schema_accepts(msg, form, blocks)) return false;
   return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }
 

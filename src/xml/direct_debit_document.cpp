@@ -8,6 +8,7 @@
 #include "xml/document_frame.h"
 #include "xml/document_stamp.h"
 #include "xml/parties.h"
+#include "xml/schema_check.h"
 
 namespace tivex {
 
@@ -95,8 +96,8 @@ void write_amendment(document_writer& out, const document_schema& schema,
 }
 
 void write_mandate(document_writer& out, const document_schema& schema, const dd_transaction& tx) {
-  const element debit(out, "DrctDbtTx");
-  const element mandate(out, "MndtRltdInf");
+  const optional_element debit(out, "DrctDbtTx");
+  const optional_element mandate(out, "MndtRltdInf");
   out.optional_value("MndtId", tx.mandate_id);
   out.optional_value("DtOfSgntr", tx.mandate_date);
   write_amendment(out, schema, tx);
@@ -119,7 +120,7 @@ void write_debtor(document_writer& out, const dd_transaction& tx) {
 
 void write_remittance(document_writer& out, const dd_transaction& tx) {
   if (!tx.remittance) return;
-  const element remittance(out, "RmtInf");
+  const optional_element remittance(out, "RmtInf");
   out.escaped("Ustrd", tx.remittance.c_str());
 }
 
@@ -155,6 +156,7 @@ bool ddi_toXML(message& msg, xml_buffer_t& out) {
                               .initiation = "CstmrDrctDbtInitn",
                               .typical_transaction_bytes = 1500,
                               .moment = moment};
+  if (msg.strict != 0 && !schema_accepts(msg, form, blocks)) return false;
   return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }
 

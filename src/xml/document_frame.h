@@ -58,21 +58,21 @@ struct payment_writer {
 // did not fit.
 template <class record>
 bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form,
-                      payment_blocks<record>& blocks, const payment_writer<record>& write) {
+                      const payment_blocks<record>& blocks, const payment_writer<record>& write) {
   xml_buffer_expect(out, msg.tx_count * form.typical_transaction_bytes);
-  document_writer writer(out);
+  document_writer writer(out, msg.strict != 0);
   {
     const document_attributes attributes(form);
     const element document(writer, "Document", attributes.c_str());
     const element initiation(writer, form.initiation);
     write_group_header(writer, msg, form.moment);
-    for (int number = 1; const auto block = blocks.next(); ++number) {
+    blocks.for_each([&](const payment_block<record>& block, int number) {
       const element payment(writer, "PmtInf");
-      write.header(writer, msg, form.schema, *block, number);
-      for (const auto& entry : block->transactions) {
+      write.header(writer, msg, form.schema, block, number);
+      for (const auto& entry : block.transactions) {
         write.transaction(writer, form.schema, *entry.tx);
       }
-    }
+    });
   }
   return writer.succeeded(msg);
 }

@@ -28,6 +28,13 @@ void document_writer::close(std::string_view name) {
   append(failure::of_markup, {indent(), "</", name, ">\n"});
 }
 
+void document_writer::close_optional(std::string_view name, std::uint32_t before,
+                                     std::uint32_t behind) {
+  if (!strict_ || out_.length != behind) return close(name);
+  --depth_;
+  xml_buffer_cut(out_, before);
+}
+
 void document_writer::fixed(std::string_view name, std::string_view content) {
   append(failure::of_markup, {indent(), "<", name, ">", content, "</", name, ">\n"});
 }
@@ -38,6 +45,7 @@ void document_writer::value(std::string_view name, std::string_view content,
 }
 
 void document_writer::escaped(std::string_view name, const char* content) {
+  if (strict_ && (content == nullptr || *content == '\0')) return;
   append(failure::of_markup, {indent(), "<", name, ">"});
   if (failure_ == failure::none && !xml_buffer_append_escaped(out_, content)) {
     failure_ = failure::of_value;

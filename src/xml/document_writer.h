@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
 #include <string_view>
 
@@ -10,9 +11,11 @@ namespace tivex {
 
 // Writes elements, one line for each start tag, end tag or element with a value,
 // indented with a tab for each level. After a failure nothing more is written.
+// In the strict mode what the schema can do without is left out when it would be
+// empty.
 class document_writer {
  public:
-  explicit document_writer(xml_buffer_t& out) : out_(out) {}
+  document_writer(xml_buffer_t& out, bool strict) : out_(out), strict_(strict) {}
   document_writer(const document_writer&) = delete;
   document_writer& operator=(const document_writer&) = delete;
 
@@ -21,11 +24,17 @@ class document_writer {
   void open(std::string_view name, std::string_view attributes = "");
   void close(std::string_view name);
 
+  // Ends an element that the schema can do without. Where the document ended before
+  // its start tag and behind it tells whether it is empty.
+  void close_optional(std::string_view name, std::uint32_t before, std::uint32_t behind);
+  std::uint32_t position() const { return out_.length; }
+
   // An element whose content belongs to the document's form.
   void fixed(std::string_view name, std::string_view content);
 
   // An element with a value, as it stands or escaped. An attribute, if any,
-  // follows the name in the start tag only.
+  // follows the name in the start tag only. In the strict mode an escaped value that
+  // is empty or null is left out.
   void value(std::string_view name, std::string_view content, std::string_view attributes = "");
   void escaped(std::string_view name, const char* content);
 
@@ -47,6 +56,7 @@ class document_writer {
   void append(failure kind, std::initializer_list<std::string_view> texts);
 
   xml_buffer_t& out_;
+  bool strict_;
   int depth_ = 0;
   failure failure_ = failure::none;
 };
@@ -65,6 +75,25 @@ class element {
  private:
   document_writer& out_;
   std::string_view name_;
+};
+
+// The same for an element that the schema can do without.
+class optional_element {
+ public:
+  optional_element(document_writer& out, std::string_view name)
+      : out_(out), name_(name), before_(out.position()) {
+    out_.open(name);
+    behind_ = out_.position();
+  }
+  ~optional_element() { out_.close_optional(name_, before_, behind_); }
+  optional_element(const optional_element&) = delete;
+  optional_element& operator=(const optional_element&) = delete;
+
+ private:
+  document_writer& out_;
+  std::string_view name_;
+  std::uint32_t before_;
+  std::uint32_t behind_;
 };
 
 }  // namespace tivex

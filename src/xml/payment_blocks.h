@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <optional>
 #include <span>
 #include <tuple>
 
@@ -37,19 +36,21 @@ struct payment_block {
 };
 
 // The blocks of a message in ascending order of dates and, within a date, of
-// slots, made one by one. They come from sorting, which takes n log n steps
+// slots. They come from sorting, which takes n log n steps
 // whatever the dates are.
 template <class record>
 class payment_blocks {
  public:
   // `slot_of` tells the slot of a record. False, with the reason in the message,
-  // when the transactions cannot be grouped. The message must stay as it is while
-  // blocks are asked for.
+  // when the transactions cannot be grouped. The message must stay as it is as
+  // long as the blocks are used.
   template <class slot_function>
   bool group(message& msg, slot_function slot_of);
 
-  // The next block; none behind the last.
-  std::optional<payment_block<record>> next();
+  // Makes the blocks one by one and calls a function with each and its number,
+  // from 1.
+  template <class block_function>
+  void for_each(block_function use) const;
 
  private:
   using entry = grouped_transaction<record>;
@@ -58,10 +59,12 @@ class payment_blocks {
   };
 
   const char* date_of(const record& tx) const { return tx.date ? tx.date.c_str() : default_date_; }
+  // The block that some entries begin with.
+  payment_block<record> first_block(std::span<const entry> entries) const;
 
   const char* default_date_ = nullptr;
   std::unique_ptr<entry[], free_delete> entries_;
-  std::span<const entry> left_;
+  std::uint32_t count_ = 0;
 };
 
 template <class record>
@@ -83,25 +86,34 @@ bool payment_blocks<record>::group(message& msg, slot_function slot_of) {
     return std::tie(left.date, left.slot, left.place) <
            std::tie(right.date, right.slot, right.place);
   });
-  left_ = all;
+  count_ = msg.tx_count;
   return true;
 }
 
 template <class record>
-std::optional<payment_block<record>> payment_blocks<record>::next() {
-  if (left_.empty()) return std::nullopt;
-  const entry& first = left_.front();
+payment_block<record> payment_blocks<record>::first_block(std::span<const entry> entries) const {
+  const entry& first = entries.front();
   payment_block<record> block;
   block.date = date_of(*first.tx);
   block.slot = first.slot;
-  for (const entry& candidate : left_) {
+  for (const entry& candidate : entries) {
     if (candidate.date != first.date || candidate.slot != first.slot) break;
     block.sum += candidate.tx->amount;
     ++block.count;
   }
-  block.transactions = left_.first(block.count);
-  left_ = left_.subspan(block.count);
+  block.transactions = entries.first(block.count);
   return block;
+}
+
+template <class record>
+template <class block_function>
+void payment_blocks<record>::for_each(block_function use) const {
+  std::span<const entry> left(entries_.get(), count_);
+  for (int number = 1; !left.empty(); ++number) {
+    const payment_block<record> block = first_block(left);
+    left = left.subspan(block.count);
+    use(block, number);
+  }
 }
 
 }  // namespace tivex

@@ -8,25 +8,82 @@ namespace tivex {
 
 namespace {
 
+constexpr std::uint32_t iso_demands = DEMAND_OWN_IBAN;
+
+// German banks check subsets of the ISO schemas, which the German banking industry
+// prescribes.
+constexpr std::uint32_t german_demands = iso_demands | DEMAND_OWN_BIC | DEMAND_NAMES |
+                                         DEMAND_MANDATE | DEMAND_CREDITOR_FORM | DEMAND_SEPA_AMOUNT;
+
+constexpr document_schema german_2012 = {
+    .credit_transfer = "pain.001.002.03",
+    .direct_debit = "pain.008.002.02",
+    .has_location = true,
+    .bic_element = "BIC",
+    .demands = german_demands | DEMAND_OTHER_BIC | DEMAND_NO_COR1,
+    .identifiers = identifier_set::sepa,
+    .mandate_references = identifier_set::sepa_without_blank,
+};
+
+constexpr document_schema german_2013 = {
+    .credit_transfer = "pain.001.003.03",
+    .direct_debit = "pain.008.003.02",
+    .has_location = true,
+    .bic_element = "BIC",
+    .demands = german_demands,
+    .identifiers = identifier_set::sepa,
+    .mandate_references = identifier_set::sepa_without_blank,
+};
+
+constexpr document_schema iso_2009 = {
+    .credit_transfer = "pain.001.001.03",
+    .direct_debit = "pain.008.001.02",
+    .bic_element = "BIC",
+    .demands = iso_demands,
+};
+
+constexpr document_schema german_2016 = {
+    .credit_transfer = "pain.001.001.03",
+    .direct_debit = "pain.008.001.02",
+    .has_location = true,
+    .bic_element = "BIC",
+    .smnda_on_account = true,
+    .demands = german_demands,
+    .identifiers = identifier_set::sepa,
+    .mandate_references = identifier_set::sepa,
+};
+
+constexpr document_schema german_2024 = {
+    .credit_transfer = "pain.001.001.09",
+    .direct_debit = "pain.008.001.08",
+    .has_location = true,
+    .bic_element = "BICFI",
+    .smnda_on_account = true,
+    .date_or_time = true,
+    .demands = german_demands | DEMAND_TOWN_AND_COUNTRY | DEMAND_NO_COR1,
+    .identifiers = identifier_set::sepa,
+    .mandate_references = identifier_set::sepa,
+};
+
 // In the order of the rulebooks' numbers.
-constexpr std::array<document_schema, rulebook_table.size()> schemas = {{
-    {"pain.001.002.03", "pain.008.002.02", true, "BIC", false},   // DE-2.6
-    {"pain.001.003.03", "pain.008.003.02", true, "BIC", false},   // DE-2.7
-    {"pain.001.001.03", "pain.008.001.02", false, "BIC", false},  // AT-6
-    {"pain.001.001.03", "pain.008.001.02", false, "BIC", false},  // NL-6
-    {"pain.001.003.03", "pain.008.003.02", true, "BIC", false},   // DE-2.8
-    {"pain.001.003.03", "pain.008.003.02", true, "BIC", false},   // DE-2.9
-    {"pain.001.001.03", "pain.008.001.02", true, "BIC", true},    // DE-3.0
-    {"pain.001.001.03", "pain.008.001.02", true, "BIC", true},    // DE-3.1
-    {"pain.001.001.03", "pain.008.001.02", true, "BIC", true},    // DE-3.5
-    {"pain.001.001.09", "pain.008.001.08", true, "BICFI", true},  // DE-3.7
-}};
+constexpr std::array<const document_schema*, rulebook_table.size()> schemas = {
+    &german_2012,  // DE-2.6
+    &german_2013,  // DE-2.7
+    &iso_2009,     // AT-6
+    &iso_2009,     // NL-6
+    &german_2013,  // DE-2.8
+    &german_2013,  // DE-2.9
+    &german_2016,  // DE-3.0
+    &german_2016,  // DE-3.1
+    &german_2016,  // DE-3.5
+    &german_2024,  // DE-3.7
+};
 
 }  // namespace
 
 const document_schema* schema_of(std::int32_t number) {
   if (number < 0 || number >= static_cast<std::int32_t>(schemas.size())) return nullptr;
-  return &schemas[static_cast<std::size_t>(number)];
+  return schemas[static_cast<std::size_t>(number)];
 }
 
 }  // namespace tivex

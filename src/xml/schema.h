@@ -1,4 +1,5 @@
-// Which schema version each rulebook writes, and how versions differ.
+// Which schema version each rulebook writes, how versions differ, and what each
+// asks of the values.
 #pragma once
 
 #include <cstdint>
@@ -6,13 +7,38 @@
 
 namespace tivex {
 
+// The characters of identifiers: any text; letters, digits, blank and
+// + ? / | - : ( ) . , '; or these without the blank.
+enum class identifier_set { any, sepa, sepa_without_blank };
+
+// What a schema may ask of a message's values.
+enum schema_demand : std::uint32_t {
+  DEMAND_NOTHING = 0,
+  DEMAND_OWN_IBAN = 1,
+  DEMAND_OWN_BIC = 2,
+  DEMAND_NAMES = 4,              // of both parties
+  DEMAND_OTHER_BIC = 8,          // of the other side's bank
+  DEMAND_TOWN_AND_COUNTRY = 16,  // both, in a structured address
+  DEMAND_MANDATE = 32,           // its reference and the date of its signature
+  DEMAND_CREDITOR_FORM = 64,     // the EPC's form of creditor identifiers
+  DEMAND_SEPA_AMOUNT = 128,      // at most 999999999.99
+  DEMAND_NO_COR1 = 256,          // as the local instrument
+};
+
 // Versions are named as their namespaces and files are.
 struct document_schema {
   const char* credit_transfer;
   const char* direct_debit;
-  bool has_location;             // whether the document names the schema's file
+  bool has_location = false;     // whether the document names the schema's file
   std::string_view bic_element;  // within FinInstnId
-  bool smnda_on_account;  // where a change of the debtor's account is marked, else on the agent
+  // Where a change of the debtor's account is marked, else on the agent.
+  bool smnda_on_account = false;
+  bool date_or_time = false;  // the execution date says which of the two it is
+  std::uint32_t demands;      // of schema_demand
+  identifier_set identifiers = identifier_set::any;
+  identifier_set mandate_references = identifier_set::any;
+
+  bool asks_for(std::uint32_t demand) const { return (demands & demand) != 0; }
 };
 
 // The schema of the rulebook with a number; null when there is none.

@@ -124,6 +124,12 @@ bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<std::string
   return true;
 }
 
+void xml_buffer_cut(xml_buffer_t& buf, std::uint32_t length) {
+  platform::wipe(buf.data + length, buf.length - length);
+  buf.length = length;
+  buf.data[length - 1] = '\0';
+}
+
 char* xml_buffer_take(xml_buffer_t& buf) {
   // A block that shrinks stays where it is, or at worst as large as it was.
   void* const fitted = std::realloc(buf.data, buf.capacity);

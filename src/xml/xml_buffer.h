@@ -46,6 +46,10 @@ bool xml_buffer_append_escaped(xml_buffer_t& buf, const char* text);
 // first that does not fit, and those before it stay.
 bool xml_buffer_append_list(xml_buffer_t& buf, std::initializer_list<std::string_view> texts);
 
+// Takes away what stands behind the first `length` bytes, which count the
+// terminating NUL as the text's own length does.
+void xml_buffer_cut(xml_buffer_t& buf, std::uint32_t length);
+
 // Hands the text over to the caller, who releases it with free().
 char* xml_buffer_take(xml_buffer_t& buf);
 

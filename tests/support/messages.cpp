@@ -46,6 +46,9 @@ int call(const message_ptr& msg, const std::string& function, const char* value)
   if (function == "setBatchBooking") {
     return tivex_setBatchBooking(msg.get(), static_cast<unsigned char>(std::atoi(value)));
   }
+  if (function == "setStrict") {
+    return tivex_setStrict(msg.get(), static_cast<unsigned char>(std::atoi(value)));
+  }
   if (function.rfind("add", 0) != 0) return setters.at(function)(msg.get(), value);
 
   std::vector<std::pair<std::string, cell>> properties;

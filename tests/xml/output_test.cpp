@@ -80,7 +80,7 @@ TEST(DocumentWriter, TellsOfValuesThatDoNotFitButNotOfMarkup) {
     const message_ptr msg = new_message(TIVEX_CREDIT_TRANSFER);
     const xml_buffer_ptr out(xml_buffer_new());
     ASSERT_TRUE(xml_buffer_append(*out, std::string(230, 'x')));
-    document_writer document(*out);
+    document_writer document(*out, false);
     const runtime_control::failing_allocation failing(1, true);
     write(document, std::string(50, 'y').c_str());
     const std::uint32_t length = out->length;

@@ -1,0 +1,195 @@
+#include "xml/schema_check.h"
+
+#include <array>
+#include <cinttypes>
+#include <cstring>
+#include <span>
+
+#include "core/rulebook.h"
+#include "transactions/address_fields.h"
+#include "xml/value_flaw.h"
+
+namespace tivex {
+
+namespace {
+
+// A flaw, and the key of the value that has it.
+struct keyed_flaw {
+  const char* key = nullptr;
+  value_flaw found;
+};
+
+// What schemas look at in one value: the demand that makes it obligatory and the
+// test that it has to pass. Where no test stands, values that have been added or
+// set can hold nothing that a schema refuses. Some values need a function of their
+// own.
+template <class holder>
+struct value_row {
+  const char* key = nullptr;
+  owned_text holder::*value = nullptr;
+  std::uint32_t demanded_by = DEMAND_NOTHING;
+  value_test* test = nullptr;
+  keyed_flaw (*examine)(const holder& target, const document_schema& schema) = nullptr;
+
+  keyed_flaw find_flaw(const holder& target, const document_schema& schema) const {
+    if (examine != nullptr) return examine(target, schema);
+    const owned_text& held = target.*value;
+    if (!held) return {key, {schema.asks_for(demanded_by) ? flaw::missing : flaw::none}};
+    return {key, test != nullptr ? test(held.c_str(), schema) : value_flaw{}};
+  }
+};
+
+// An address with neither town nor country is not written where addresses are
+// structured, and where they are not, its parts have been looked at when they were
+// added.
+template <class record>
+keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
+  if (!current_rules().structured_address || (!tx.addr_town && !tx.addr_country)) return {};
+  const bool needs_both = schema.asks_for(DEMAND_TOWN_AND_COUNTRY);
+  for (const field_row& part : structured_address_fields) {
+    const owned_text& held = tx.*part.destination;
+    const bool needed = needs_both && part.destination == &transaction::addr_town;
+    if (!held && needed) return {part.key, {flaw::missing}};
+    const value_flaw found = held ? escaped_text_flaw(held.c_str(), schema) : value_flaw{};
+    if (found) return {part.key, found};
+  }
+  return {"addrCC", {!tx.addr_country && needs_both ? flaw::missing : flaw::none}};
+}
+
+template <class record>
+keyed_flaw find_amount_flaw(const record& tx, const document_schema& schema) {
+  return {"amount", amount_flaw(tx.amount, schema)};
+}
+
+// Without transactions no other value of the header is written.
+constexpr std::array<value_row<message>, 4> credit_transfer_header = {{
+    {.examine =
+         [](const message& msg, const document_schema& /*schema*/) {
+           return keyed_flaw{"transactions", {msg.tx_count == 0 ? flaw::missing : flaw::none}};
+         }},
+    {"IBAN", &message::iban, DEMAND_OWN_IBAN},
+    {"BIC", &message::bic, DEMAND_OWN_BIC},
+    {"name", &message::name, DEMAND_NAMES},
+}};
+
+// The other values of the header have been found before.
+constexpr std::array<value_row<message>, 2> direct_debit_header = {{
+    {"creditor identifier", &message::creditor_id, DEMAND_NOTHING, creditor_identifier_flaw},
+    {.examine =
+         [](const message& msg, const document_schema& schema) {
+           const bool refused =
+               msg.local_instrument == TIVEX_DD_COR1 && schema.asks_for(DEMAND_NO_COR1);
+           return keyed_flaw{"local instrument COR1", {refused ? flaw::not_allowed : flaw::none}};
+         }},
+}};
+
+constexpr std::array<value_row<ct_transaction>, 7> credit_transfer_rows = {{
+    {"name", &ct_transaction::name, DEMAND_NAMES},
+    {"bic", &ct_transaction::bic, DEMAND_OTHER_BIC},
+    {.examine = find_address_flaw<ct_transaction>},
+    {"purp", &ct_transaction::purpose, DEMAND_NOTHING, plain_text_flaw},
+    {.examine = find_amount_flaw<ct_transaction>},
+    {"date", &ct_transaction::date, DEMAND_NOTHING, date_flaw},
+    {"id", &ct_transaction::end_to_end_id, DEMAND_NOTHING, identifier_flaw},
+}};
+
+constexpr std::array<value_row<dd_transaction>, 9> direct_debit_rows = {{
+    {"name", &dd_transaction::name, DEMAND_NAMES},
+    {"bic", &dd_transaction::bic, DEMAND_OTHER_BIC},
+    {.examine = find_address_flaw<dd_transaction>},
+    {.examine = find_amount_flaw<dd_transaction>},
+    {"date", &dd_transaction::date, DEMAND_NOTHING, date_flaw},
+    {"id", &dd_transaction::end_to_end_id, DEMAND_NOTHING, identifier_flaw},
+    {"mref", &dd_transaction::mandate_id, DEMAND_MANDATE, mandate_reference_flaw},
+    {"mdate", &dd_transaction::mandate_date, DEMAND_MANDATE, date_flaw},
+    {"old_mref", &dd_transaction::old_mandate_id, DEMAND_NOTHING, mandate_reference_flaw},
+}};
+
+// Notes a flaw of the message itself (number 0) or of a transaction.
+bool refuse(message& msg, std::uint32_t number, const keyed_flaw& flawed, const char* version) {
+  char reason[128];
+  describe(reason, sizeof reason, flawed.found, version);
+  if (number == 0) return msg.fail_with("message: %s %s", flawed.key, reason);
+  return msg.fail_with("transaction %" PRIu32 ": %s %s", number, flawed.key, reason);
+}
+
+template <class holder>
+bool values_accepted(message& msg, std::uint32_t number, const holder& target,
+                     const document_form& form, std::span<const value_row<holder>> rows) {
+  for (const value_row<holder>& row : rows) {
+    const keyed_flaw flawed = row.find_flaw(target, form.schema);
+    if (flawed.found) return refuse(msg, number, flawed, form.version);
+  }
+  return true;
+}
+
+// The message's date counts where a transaction has none of its own.
+template <class record>
+value_flaw find_date_flaw(const message& msg, const document_schema& schema) {
+  for (const auto* tx = first_transaction<record>(msg); tx != nullptr; tx = tx->next) {
+    if (!tx->date) return date_flaw(msg.date.c_str(), schema);
+  }
+  return {};
+}
+
+// Payment identifiers are the message's with "-P" and the block's number.
+bool has_room_for_payment_ids(message& msg, int blocks, const char* version) {
+  constexpr unsigned longest_id = 35;
+  unsigned room = longest_id - 2;
+  for (int number = blocks; number > 0; number /= 10) --room;
+  if (std::strlen(msg.message_id.c_str()) <= room) return true;
+  return msg.fail_with(
+      "message: message id above %u bytes, payment ids above %u (not allowed by %s)", room,
+      longest_id, version);
+}
+
+// The values that the header is completed with.
+template <class record>
+bool frame_accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks) {
+  const value_flaw date = find_date_flaw<record>(msg, form.schema);
+  if (date) return refuse(msg, 0, {"date", date}, form.version);
+  int count = 0;
+  blocks.for_each([&count](const payment_block<record>& /*block*/, int number) { count = number; });
+  return has_room_for_payment_ids(msg, count, form.version);
+}
+
+// Sums come last: one that is too long may come from one amount.
+template <class record>
+bool sums_accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks) {
+  value_flaw found = sum_flaw(msg.control_sum);
+  blocks.for_each([&found](const payment_block<record>& block, int /*number*/) {
+    if (!found) found = sum_flaw(block.sum);
+  });
+  return !found || refuse(msg, 0, {"sum", found}, form.version);
+}
+
+template <class record>
+bool transactions_accepted(message& msg, const document_form& form,
+                           std::span<const value_row<record>> rows) {
+  std::uint32_t number = 1;
+  for (const auto* tx = first_transaction<record>(msg); tx != nullptr; tx = tx->next) {
+    if (!values_accepted<record>(msg, number++, *tx, form, rows)) return false;
+  }
+  return true;
+}
+
+template <class record>
+bool accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks,
+              std::span<const value_row<message>> header, std::span<const value_row<record>> rows) {
+  return values_accepted<message>(msg, 0, msg, form, header) && frame_accepted(msg, form, blocks) &&
+         transactions_accepted(msg, form, rows) && sums_accepted(msg, form, blocks);
+}
+
+}  // namespace
+
+bool schema_accepts(message& msg, const document_form& form,
+                    const payment_blocks<ct_transaction>& blocks) {
+  return accepted<ct_transaction>(msg, form, blocks, credit_transfer_header, credit_transfer_rows);
+}
+
+bool schema_accepts(message& msg, const document_form& form,
+                    const payment_blocks<dd_transaction>& blocks) {
+  return accepted<dd_transaction>(msg, form, blocks, direct_debit_header, direct_debit_rows);
+}
+
+}  // namespace tivex

@@ -1,0 +1,118 @@
+#include "xml/value_flaw.h"
+
+#include <cstring>
+#include <string_view>
+
+#include "core/bounded_format.h"
+#include "transactions/date_text.h"
+#include "validation/ascii.h"
+#include "xml/amount_text.h"
+#include "xml/xml_text.h"
+
+namespace tivex {
+
+namespace {
+
+constexpr std::string_view highest_amount = "999999999.99";
+constexpr std::size_t most_digits = 18;
+
+bool is_sepa_character(char c, identifier_set set) {
+  if (c == ' ') return set == identifier_set::sepa;
+  return is_digit(c) || is_upper(to_upper(c)) || std::strchr("+?/|-:().,'", c) != nullptr;
+}
+
+value_flaw ill_formed_at(const char* place) {
+  return place != nullptr ? value_flaw{flaw::ill_formed, *place} : value_flaw{};
+}
+
+value_flaw text_flaw(const char* value, const document_schema& schema, identifier_set set) {
+  const value_flaw ill_formed = plain_text_flaw(value, schema);
+  if (ill_formed || set == identifier_set::any) return ill_formed;
+  for (; *value != '\0'; ++value) {
+    if (!is_sepa_character(*value, set)) return {flaw::character, *value};
+  }
+  return {};
+}
+
+// The digits of an amount text without the zeros that end it behind the point.
+std::size_t significant_digits(const char* amount) {
+  std::size_t length = std::strlen(amount) - 1;  // without the point
+  for (const char* last = amount + length; *last == '0'; --last) --length;
+  return length;
+}
+
+}  // namespace
+
+value_flaw escaped_text_flaw(const char* value, const document_schema& /*schema*/) {
+  return ill_formed_at(find_illegal_character(value));
+}
+
+value_flaw plain_text_flaw(const char* value, const document_schema& /*schema*/) {
+  const char* const illegal = find_illegal_character(value);
+  return ill_formed_at(illegal != nullptr ? illegal : find_markup(value));
+}
+
+value_flaw identifier_flaw(const char* value, const document_schema& schema) {
+  return text_flaw(value, schema, schema.identifiers);
+}
+
+value_flaw mandate_reference_flaw(const char* value, const document_schema& schema) {
+  return text_flaw(value, schema, schema.mandate_references);
+}
+
+// Country, check digits, creditor business code and national identifier.
+value_flaw creditor_identifier_flaw(const char* value, const document_schema& schema) {
+  if (!schema.asks_for(DEMAND_CREDITOR_FORM)) return plain_text_flaw(value, schema);
+  constexpr std::size_t national_identifier = 7;
+  const bool begins_well = is_upper(to_upper(value[0])) && is_upper(to_upper(value[1])) &&
+                           is_digit(value[2]) && is_digit(value[3]);
+  if (!begins_well || std::strlen(value) <= national_identifier) return {flaw::no_creditor_form};
+  return text_flaw(value, schema, identifier_set::sepa_without_blank);
+}
+
+value_flaw date_flaw(const char* value, const document_schema& /*schema*/) {
+  return is_calendar_date(value) ? value_flaw{} : value_flaw{flaw::no_date};
+}
+
+value_flaw amount_flaw(double amount, const document_schema& schema) {
+  if (!schema.asks_for(DEMAND_SEPA_AMOUNT)) return sum_flaw(amount);
+  number_text text;
+  format_amount(text, sizeof text, amount);
+  return std::strlen(text) > highest_amount.size() ? value_flaw{flaw::too_high} : value_flaw{};
+}
+
+value_flaw sum_flaw(double sum) {
+  number_text text;
+  format_amount(text, sizeof text, sum);
+  return significant_digits(text) > most_digits ? value_flaw{flaw::too_many_digits} : value_flaw{};
+}
+
+void describe(char* out, std::size_t size, value_flaw found, const char* version) {
+  const bool shown = found.byte >= ' ' && found.byte <= '~';
+  const char* const authority = found.kind == flaw::ill_formed ? "XML" : version;
+  switch (found.kind) {
+    case flaw::missing:
+      return bounded_format(out, size, "missing (required by %s)", version);
+    case flaw::no_date:
+      return bounded_format(out, size, "is not a calendar date (required by %s)", version);
+    case flaw::no_creditor_form:
+      return bounded_format(out, size,
+                            "is not two letters, two digits, business code and national "
+                            "identifier (required by %s)",
+                            version);
+    case flaw::too_high:
+      return bounded_format(out, size, "above %s (not allowed by %s)", highest_amount.data(),
+                            version);
+    case flaw::too_many_digits:
+      return bounded_format(out, size, "of more than 18 digits (not allowed by %s)", version);
+    case flaw::not_allowed:
+      return bounded_format(out, size, "not allowed by %s", version);
+    default:
+      return shown ? bounded_format(out, size, "has character '%c' (not allowed by %s)", found.byte,
+                                    authority)
+                   : bounded_format(out, size, "has byte 0x%02X (not allowed by %s)",
+                                    static_cast<unsigned char>(found.byte), authority);
+  }
+}
+
+}  // namespace tivex

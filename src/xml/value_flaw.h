@@ -1,0 +1,46 @@
+// What can be wrong with a value that a schema looks at.
+#pragma once
+
+#include <cstddef>
+
+#include "xml/schema.h"
+
+namespace tivex {
+
+enum class flaw {
+  none,
+  missing,
+  no_date,           // of the calendar
+  character,         // that the schema does not admit
+  ill_formed,        // a character that no XML document admits in this place
+  no_creditor_form,  // of creditor identifiers
+  too_high,          // above 999999999.99
+  too_many_digits,   // for the schema's numbers
+  not_allowed,
+};
+
+struct value_flaw {
+  flaw kind = flaw::none;
+  char byte = '\0';  // the first one of a character
+
+  explicit operator bool() const { return kind != flaw::none; }
+};
+
+// Each looks at a value as the document would hold it: a text that is written
+// escaped, and those that are written as they stand.
+using value_test = value_flaw(const char* value, const document_schema& schema);
+value_test escaped_text_flaw;
+value_test plain_text_flaw;
+value_test identifier_flaw;
+value_test mandate_reference_flaw;
+value_test creditor_identifier_flaw;
+value_test date_flaw;
+
+// An amount in euro, and a sum of them.
+value_flaw amount_flaw(double amount, const document_schema& schema);
+value_flaw sum_flaw(double sum);
+
+// Says what is wrong, and by whose rules: the version's or XML's.
+void describe(char* out, std::size_t size, value_flaw found, const char* version);
+
+}  // namespace tivex

@@ -1,0 +1,202 @@
+// The strict mode against the published schemas.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <regex>
+
+#include "schemas/random_message.h"
+#include "schemas/schema.h"
+
+namespace {
+
+// The elements that a key's value becomes, in any kind of document.
+const std::map<std::string, std::vector<std::string>> elements_of_keys = {
+    {"IBAN", {"IBAN"}},
+    {"BIC", {"BIC", "BICFI"}},
+    {"name", {"Nm"}},
+    {"creditor identifier", {"Id"}},
+    {"local instrument COR1", {"Cd"}},
+    {"message id", {"PmtInfId"}},
+    {"transactions", {"PmtInf"}},
+    {"sum", {"CtrlSum"}},
+    {"bic", {"CdtrAgt", "BIC"}},
+    {"addrTown", {"TwnNm"}},
+    {"addrCC", {"Ctry"}},
+    {"amount", {"InstdAmt"}},
+    {"date", {"Dt", "ReqdExctnDt", "ReqdColltnDt"}},
+    {"id", {"EndToEndId"}},
+    {"purp", {"Cd"}},
+    {"ref", {"Ustrd"}},
+    {"mref", {"MndtId"}},
+    {"mdate", {"DtOfSgntr"}},
+    {"old_mref", {"OrgnlMndtId"}},
+};
+
+// A refusal taken apart.
+struct refusal {
+  explicit refusal(const std::string& error) {
+    static const std::regex form(
+        R"((message|transaction (\d+)): (.+?) (?:missing|is|has|above|of|not|longer) .*by (.*)\))");
+    std::smatch parts;
+    known = std::regex_match(error, parts, form);
+    if (known && parts[2].matched) transaction = std::stoul(parts[2]);
+    key = parts[3];
+    by_xml = parts[4] == "XML";
+  }
+  bool known = false;
+  std::size_t transaction = 0;  // 0: the message
+  std::string key;
+  bool by_xml = false;
+};
+
+class Schemas : public testing::Test {
+ protected:
+  void SetUp() override {
+    const char* const folder = std::getenv("TIVEX_SCHEMAS");
+    if (folder == nullptr) GTEST_SKIP() << "TIVEX_SCHEMAS names no folder with schemas";
+    folder_ = folder;
+    ASSERT_TRUE(std::filesystem::exists(folder_ / "iso")) << folder;
+  }
+
+  // The schemas by which a document under a rulebook is judged.
+  std::vector<const schema*> schemas_of(const std::string& document, const std::string& rulebook) {
+    static const std::regex name(":xsd:(pain[0-9.]+)\"");
+    std::smatch match;
+    EXPECT_TRUE(std::regex_search(document, match, name));
+    const std::string version = match[1];
+    std::vector<std::string> files = {"iso/" + version};
+    if (rulebook.starts_with("DE")) {
+      for (const char* const end : {"", "_GBIC", "_GBIC_4"}) files.push_back("dk/" + version + end);
+    }
+    std::vector<const schema*> found;
+    for (const std::string& file : files) {
+      const std::filesystem::path path = folder_ / (file + ".xsd");
+      if (!std::filesystem::exists(path)) continue;
+      auto& held = loaded_[path];
+      if (!held) held = std::make_unique<schema>(path);
+      found.push_back(held.get());
+    }
+    EXPECT_EQ(found.size(), rulebook.starts_with("DE-3") ? 2 : 1);
+    return found;
+  }
+
+  std::vector<schema_error> errors_of(const parsed_document& document, const std::string& text,
+                                      const std::string& rulebook) {
+    std::vector<schema_error> all;
+    for (const schema* const s : schemas_of(text, rulebook)) {
+      const auto errors = s->errors_of(document);
+      all.insert(all.end(), errors.begin(), errors.end());
+    }
+    return all;
+  }
+
+ private:
+  std::filesystem::path folder_;
+  std::map<std::filesystem::path, std::unique_ptr<schema>> loaded_;
+};
+
+// Whether a reader finds each value as the host gave it.
+bool values_arrive(const parsed_document& document,
+                   const std::vector<std::vector<property>>& transactions) {
+  for (const auto& properties : transactions) {
+    for (const auto& [key, value] : properties) {
+      const bool unwritten = key.starts_with("addr") || key == "bic" || value.empty();
+      const auto elements = elements_of_keys.find(key);
+      if (unwritten || key == "amount" || elements == elements_of_keys.end()) continue;
+      bool arrives = false;
+      for (const std::string& element : elements->second)
+        arrives = arrives || document.contents(element).contains(value);
+      if (!arrives) return false;
+    }
+  }
+  return true;
+}
+
+// Whether a schema finds fault with what a refusal names.
+bool concerns(const schema_error& error, const refusal& refused, const made_message& made) {
+  // Odd amounts are not written as they were given.
+  if (refused.transaction > 0 && error.amount.ends_with(".17")) {
+    const auto& transaction = made.transactions.at(refused.transaction - 1);
+    if (std::ranges::find(transaction, property("amount", error.amount)) == transaction.end())
+      return false;
+  }
+  for (const std::string& element : elements_of_keys.at(refused.key)) {
+    if (std::regex_search(error.text, std::regex("\\}" + element + "\\b"))) return true;
+  }
+  return false;
+}
+
+std::string described(const random_message& plan) {
+  std::string text = "type " + std::to_string(plan.type) + ", made under " + plan.made_under +
+                     ", written under " + plan.written_under;
+  for (const auto& [key, value] : plan.header) text += "\n" + key + "=" + value;
+  for (const auto& transaction : plan.transactions) {
+    text += "\n-";
+    for (const auto& [key, value] : transaction) text += " " + key + "=" + value;
+  }
+  return text;
+}
+
+}  // namespace
+
+// Every document that is written is valid and says what the host said; every
+// message that is refused would have become an invalid document for the reason
+// told.
+TEST_F(Schemas, AcceptWhatIsWrittenAndRefuseWhatIsRefused) {
+  constexpr int documents_of_each_kind = 520;
+  std::mt19937 random(20261123);
+  int written = 0;
+  int refused = 0;
+  for (const std::string& rulebook : all_rulebooks) {
+    for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
+      for (int of_this_kind = 0; of_this_kind < documents_of_each_kind;) {
+        const random_message plan = make_random_message(random, type, rulebook);
+        const made_message made = make(plan);
+        SCOPED_TRACE(described(plan));
+        ASSERT_EQ(tivex_setStrict(made.msg.get(), 1), 1);
+        const std::string document = document_of(made.msg);
+        if (!document.empty()) {
+          const parsed_document parsed(document);
+          ASSERT_TRUE(parsed.well_formed()) << document;
+          for (const schema_error& error : errors_of(parsed, document, rulebook))
+            ADD_FAILURE() << error.text << document;
+          EXPECT_TRUE(values_arrive(parsed, made.transactions)) << document;
+          ++of_this_kind;
+          ++written;
+          continue;
+        }
+        const refusal reason(error_of(made.msg));
+        if (!reason.known) {
+          EXPECT_EQ(error_of(made.msg).find("by pain"), std::string::npos);
+          continue;  // refused in any form
+        }
+        ASSERT_EQ(tivex_setStrict(made.msg.get(), 0), 1);
+        const std::string prescribed = std::regex_replace(
+            document_of(made.msg),
+            std::regex(rulebook == "DE-3.7" ? "(<ReqdExctnDt>)(.*)(</ReqdExctnDt>)" : "(x)(^)(x)"),
+            "$1<Dt>$2</Dt>$3");
+        const parsed_document parsed(prescribed);
+        if (reason.by_xml) {
+          EXPECT_FALSE(parsed.well_formed() && values_arrive(parsed, made.transactions))
+              << error_of(made.msg) << prescribed;
+          ++refused;
+        } else if (parsed.well_formed()) {
+          bool found = false;
+          for (const schema_error& error : errors_of(parsed, prescribed, rulebook))
+            found = found || concerns(error, reason, made);
+          EXPECT_TRUE(found) << error_of(made.msg) << prescribed;
+          ++refused;
+        }
+        if (HasFailure()) return;
+      }
+    }
+  }
+  EXPECT_GE(written, 10000);
+  EXPECT_GE(refused, 1000);
+  std::cout << written << " documents written, " << refused << " messages refused\n";
+}

@@ -1,0 +1,101 @@
+// What the strict mode accepts, leaves out and refuses: tests/data/strict.tsv.
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "support/messages.h"
+#include "support/table.h"
+#include "xml/schema.h"
+
+namespace {
+
+void leave_unset(const message_ptr& msg, const std::string& value) {
+  static const std::map<std::string, tivex::owned_text tivex::message::*> fields = {
+      {"iban", &tivex::message::iban},
+      {"bic", &tivex::message::bic},
+      {"name", &tivex::message::name},
+      {"creditor_id", &tivex::message::creditor_id}};
+  (msg.get()->*fields.at(value)).clear();
+}
+
+// Adds a transaction that every rulebook takes, but for the values named.
+void add_complete(const message_ptr& msg, const std::string& replaced) {
+  std::map<std::string, std::string> values = {{"iban", "AT611904300234573201"},
+                                               {"bic", "BKAUATWW"},
+                                               {"amount", "1.17"},
+                                               {"name", "Eva"},
+                                               {"ref", "r"},
+                                               {"id", "E"}};
+  if (msg->type == TIVEX_DIRECT_DEBIT) {
+    values.insert({{"seq", "RCUR"}, {"mref", "M"}, {"mdate", "2025-06-30"}});
+  }
+  for (const std::string& entry : split(replaced, " ; ")) {
+    const std::size_t equals = entry.find('=');
+    if (equals == entry.npos) continue;
+    values[entry.substr(0, equals)] = cell(entry.substr(equals + 1)).str();
+  }
+  std::erase_if(values, [](const auto& entry) { return entry.second == "-"; });
+  pairs list;
+  for (const auto& [key, value] : values) list.push_back({key.c_str(), value.c_str()});
+  EXPECT_EQ(add_alone(msg, list), 1) << error_of(msg);
+}
+
+message_ptr make(int type, const std::string& rulebook, const std::string& steps) {
+  message_ptr msg = with_header(new_message(type, rulebook));
+  EXPECT_EQ(call(msg, "setMessageId", "M"), 1);
+  bool usual = true;
+  for (const std::string& step : split(steps, " // ")) {
+    const std::size_t blank = step.find(' ');
+    const std::string function = step.substr(0, blank);
+    const std::string value = blank == step.npos ? "" : step.substr(blank + 1);
+    usual = usual && function != "tx" && function != "none";
+    if (function == "without") {
+      leave_unset(msg, value);
+    } else if (function == "tx") {
+      add_complete(msg, value);
+    } else if (!function.empty() && function != "none") {
+      EXPECT_EQ(call(msg, function, cell(value).c_str()), 1) << step;
+    }
+  }
+  if (usual) add_complete(msg, "");
+  return msg;
+}
+
+void expect_outcome(int type, const std::string& rulebook, const row& columns) {
+  const message_ptr msg = make(type, rulebook, columns[2].str());
+  const std::string prescribed = document_of(msg);
+  const tivex::document_schema& schema = *tivex::schema_of(tivex::rulebook);
+  std::string error = columns[3].str();
+  if (const std::size_t at = error.find("{version}"); at != error.npos)
+    error.replace(at, 9, type == TIVEX_DIRECT_DEBIT ? schema.direct_debit : schema.credit_transfer);
+  msg->error = nullptr;
+  ASSERT_EQ(tivex_setStrict(msg.get(), 1), 1);
+  const std::string document = document_of(msg);
+  EXPECT_EQ(error_of(msg), error);
+  EXPECT_EQ(document.empty(), !error.empty());
+  for (const std::string& part : split(columns[4].str(), " // ")) {
+    const bool absent = part.starts_with('!');
+    EXPECT_NE(document.find(absent ? part.substr(1) : part) != document.npos, absent)
+        << part << document;
+  }
+  ASSERT_EQ(tivex_setStrict(msg.get(), 0), 1);
+  EXPECT_EQ(document_of(msg), prescribed) << "as before";
+}
+
+}  // namespace
+
+TEST(Strict, WritesWhatTheSchemaAcceptsOrSaysWhyNot) {
+  for (const row& columns : read_table("strict.tsv", 5)) {
+    const std::string books = columns[1].str();
+    for (const std::string& rulebook :
+         books == "all" || books == "German" ? all_rulebooks : split(books, " ")) {
+      if (books == "German" && !rulebook.starts_with("DE")) continue;
+      for (const std::string& type : split(columns[0].str(), " ")) {
+        SCOPED_TRACE(type + " " + rulebook + " " + columns[2].str());
+        expect_outcome(type == "CT" ? TIVEX_CREDIT_TRANSFER : TIVEX_DIRECT_DEBIT, rulebook,
+                       columns);
+      }
+    }
+  }
+}
