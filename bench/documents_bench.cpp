@@ -80,7 +80,7 @@ void add_and_write(benchmark::State& state, int type) {
   report(state, transactions);
 }
 
-void write_only(benchmark::State& state, int type) {
+void write_only(benchmark::State& state, int type, unsigned char strict) {
   const int transactions = static_cast<int>(state.range(0));
   const std::vector<std::string> dates = make_dates(static_cast<int>(state.range(1)));
   tivex_init(TIVEX_OPTION_RULEBOOK, "DE-3.7");
@@ -88,6 +88,7 @@ void write_only(benchmark::State& state, int type) {
   const message_ptr msg = fill(type, transactions, dates);
   state.counters["record_bytes"] =
       static_cast<double>(bytes_in_use() - before) / static_cast<double>(transactions);
+  tivex_setStrict(msg.get(), strict);
   for (auto _ : state) {
     char* const document = tivex_toXML(msg.get());
     state.counters["document_bytes"] =
@@ -104,7 +105,9 @@ void sizes(benchmark::internal::Benchmark* bench) {
 }
 BENCHMARK_CAPTURE(add_and_write, credit_transfers, TIVEX_CREDIT_TRANSFER)->Apply(sizes);
 BENCHMARK_CAPTURE(add_and_write, direct_debits, TIVEX_DIRECT_DEBIT)->Apply(sizes);
-BENCHMARK_CAPTURE(write_only, credit_transfers, TIVEX_CREDIT_TRANSFER)->Apply(sizes);
-BENCHMARK_CAPTURE(write_only, direct_debits, TIVEX_DIRECT_DEBIT)->Apply(sizes);
+BENCHMARK_CAPTURE(write_only, credit_transfers, TIVEX_CREDIT_TRANSFER, 0)->Apply(sizes);
+BENCHMARK_CAPTURE(write_only, direct_debits, TIVEX_DIRECT_DEBIT, 0)->Apply(sizes);
+BENCHMARK_CAPTURE(write_only, strict_credit_transfers, TIVEX_CREDIT_TRANSFER, 1)->Apply(sizes);
+BENCHMARK_CAPTURE(write_only, strict_direct_debits, TIVEX_DIRECT_DEBIT, 1)->Apply(sizes);
 
 }  // namespace

@@ -48,4 +48,13 @@ std::vector<const column*> resolve_header(const csv_row& header, std::span<const
   return columns;
 }
 
+void list_cells(const csv_row& row, const std::vector<const column*>& columns,
+                std::vector<tivex_keyvalue_t>& list) {
+  list.clear();
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (!row.cells[i].empty()) list.push_back({columns[i]->key, row.cells[i].c_str()});
+  }
+  list.push_back({nullptr, nullptr});
+}
+
 }  // namespace tivex_program

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tivex.h>
+
 #include <span>
 #include <string>
 #include <vector>
@@ -22,5 +24,10 @@ struct column {
 // wrong is reported.
 std::vector<const column*> resolve_header(const csv_row& header, std::span<const column> known,
                                           const std::string& rulebook, fault_report& faults);
+
+// Lists the cells of a row for tivex_add. An empty cell leaves its key out; the
+// texts stay those of the row.
+void list_cells(const csv_row& row, const std::vector<const column*>& columns,
+                std::vector<tivex_keyvalue_t>& list);
 
 }  // namespace tivex_program

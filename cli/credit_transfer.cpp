@@ -10,7 +10,7 @@ namespace {
 constexpr header_option options[] = {
     name_option,
     {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
-    {"--bic", "BIC", "The account's bank", false, tivex_setBIC},
+    {"--bic", "BIC", "The account's bank; German banks ask for it", false, tivex_setBIC},
     {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
      tivex_setDate, date_fault},
     message_id_option,
@@ -20,7 +20,7 @@ constexpr auto columns = with_shared_columns(std::array{column{"purp", purpose_f
 
 constexpr const char* example = R"(Example:
   tivex credit-transfer --name "Beispiel GmbH" --iban DE89370400440532013000 \
-      --date 2026-11-27 -o payroll.xml payroll.csv
+      --bic COBADEFFXXX --date 2026-11-27 -o payroll.xml payroll.csv
 
 with the payroll.csv
 
@@ -34,6 +34,7 @@ writes payroll.xml and prints
   sum             3200.00 EUR
   payment blocks  1
   rulebook        DE-3.7 (pain.001.001.09)
+  schema          meets pain.001.001.09 (German subset)
   file            payroll.xml)";
 
 }  // namespace

@@ -60,6 +60,7 @@ writes fees.xml and prints
   sum             144.00 EUR
   payment blocks  2
   rulebook        DE-3.7 (pain.008.001.08)
+  schema          meets pain.008.001.08 (German subset)
   file            fees.xml)";
 
 }  // namespace

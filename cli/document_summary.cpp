@@ -26,16 +26,18 @@ std::size_t count(std::string_view text, std::string_view part) {
 
 }  // namespace
 
-std::vector<std::string> document_summary(std::string_view document, const std::string& rulebook,
+std::vector<std::string> document_summary(std::string_view document, const document_form& form,
                                           const std::string& file) {
   const std::string_view header = between(document, "<GrpHdr>", "</GrpHdr>");
   const std::string_view transactions = between(header, "<NbOfTxs>", "<");
   const std::string_view sum = between(header, "<CtrlSum>", "<");
-  const std::string_view schema = between(document, ":xsd:", "\"");
+  const std::string schema(between(document, ":xsd:", "\""));
+  const char* const subset = form.rulebook.starts_with("DE") ? " (German subset)" : "";
   return {labelled_line("transactions", std::string(transactions)),
           labelled_line("sum", std::string(sum) + " EUR"),
           labelled_line("payment blocks", std::to_string(count(document, "<PmtInf>"))),
-          labelled_line("rulebook", rulebook + " (" + std::string(schema) + ")"),
+          labelled_line("rulebook", form.rulebook + " (" + schema + ")"),
+          labelled_line("schema", form.strict ? "meets " + schema + subset : "not checked"),
           labelled_line("file", file)};
 }
 

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,10 +12,12 @@
 #include "document_summary.h"
 #include "exit_status.h"
 #include "fault_report.h"
-#include "handles.h"
 #include "input_file.h"
 #include "output_file.h"
+#include "payment_message.h"
 #include "rulebooks.h"
+#include "schema_flaw.h"
+#include "schema_probe.h"
 #include "transactions.h"
 
 namespace tivex_program {
@@ -25,6 +28,7 @@ struct payment_arguments {
   std::vector<std::string> header;  // the values of the command's options
   std::vector<const CLI::Option*> given;
   bool single_booking = false;
+  bool lenient = false;
   std::string output = "-";
   std::string delimiter = ",";
   std::string input;
@@ -35,12 +39,14 @@ int usage_error(const std::string& text) {
   return exit_usage;
 }
 
-// Returns what is wrong with an option's value, empty when it was set.
-std::string set_header_value(tivex_t* message, const header_option& option,
-                             const std::string& value) {
-  std::string fault = option.rule(value);
-  if (fault.empty() && option.set(message, value.c_str()) != 1) fault = tivex_getError(message);
-  return fault;
+payment_header header_of(const payment_command& command, const payment_arguments& arguments) {
+  payment_header header{
+      command.transactions.message_type, {}, arguments.single_booking, !arguments.lenient};
+  for (std::size_t i = 0; i < command.options.size(); ++i) {
+    if (arguments.given[i]->count() == 0) continue;
+    header.values.push_back({&command.options[i], arguments.header[i]});
+  }
+  return header;
 }
 
 // Returns the names of the columns as a paragraph of the help text.
@@ -65,7 +71,8 @@ int write_document(const payment_arguments& arguments, std::string_view document
     print_error(name + ": " + fault);
     return exit_failure;
   }
-  for (const std::string& line : document_summary(document, arguments.rulebook, name)) {
+  const document_form form{arguments.rulebook, !arguments.lenient};
+  for (const std::string& line : document_summary(document, form, name)) {
     print_error(line);
   }
   return exit_success;
@@ -74,15 +81,12 @@ int write_document(const payment_arguments& arguments, std::string_view document
 int run(const payment_command& command, const payment_arguments& arguments) {
   const std::string unknown = select_rulebook(arguments.rulebook);
   if (!unknown.empty()) return usage_error("--rulebook: " + unknown);
-  const message_handle message(tivex_new(command.transactions.message_type));
-  if (!message) throw std::bad_alloc();
-  for (std::size_t i = 0; i < command.options.size(); ++i) {
-    if (arguments.given[i]->count() == 0) continue;
-    const std::string fault =
-        set_header_value(message.get(), command.options[i], arguments.header[i]);
-    if (!fault.empty()) return usage_error(std::string(command.options[i].flag) + ": " + fault);
-  }
-  tivex_setBatchBooking(message.get(), arguments.single_booking ? 0 : 1);
+  const payment_header header = header_of(command, arguments);
+  std::string fault;
+  const message_handle message = make_message(header, fault);
+  std::optional<schema_probe> probe;
+  if (fault.empty() && header.strict) fault = probe.emplace(header).header_fault();
+  if (!fault.empty()) return usage_error(fault);
 
   if (same_file(arguments.input, arguments.output)) {
     return usage_error("--output: " + arguments.output + " is the file to read");
@@ -91,14 +95,14 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   fault_report faults(input.name());
   const row_format format{command.transactions, delimiters.at(arguments.delimiter),
                           arguments.rulebook};
-  add_transactions(message.get(), input, format, faults);
+  add_transactions(message.get(), input, format, probe ? &*probe : nullptr, faults);
   if (!faults.empty()) {
     faults.print();
     return exit_failure;
   }
   const document_handle document(tivex_toXML(message.get()));
   if (!document) {
-    print_error(tivex_getError(message.get()));
+    print_error(header_flaw(tivex_getError(message.get())));
     return exit_failure;
   }
   return write_document(arguments, document.get());
@@ -124,6 +128,8 @@ void add_payment_command(CLI::App& program, const payment_command& command, int&
   }
   parser->add_flag("--single-booking", arguments->single_booking,
                    "Ask the bank to book the transactions singly");
+  parser->add_flag("--lenient", arguments->lenient,
+                   "Write the document even if its schema would not accept it");
   parser
       ->add_option("-o,--output", arguments->output,
                    "File to write (default: - for standard output)")

@@ -5,14 +5,10 @@
 #include <utility>
 
 #include "handles.h"
+#include "sound_values.h"
 
 namespace tivex_program {
 namespace {
-
-// A transaction that every rulebook takes; a value that follows replaces its own.
-// Credit transfers ignore the sequence type.
-constexpr tivex_keyvalue_t sound_values[] = {
-    {"iban", "AT611904300234573201"}, {"bic", "BKAUATWWXXX"}, {"amount", "1"}, {"seq", "RCUR"}};
 
 // The reasons that the library refuses a transaction for although each of its
 // values is right, and the key that it lacks.

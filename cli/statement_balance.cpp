@@ -28,8 +28,9 @@ std::string to_text(cents amount) {
   const auto bits = static_cast<std::uint64_t>(amount);
   const std::uint64_t magnitude = amount < 0 ? 0 - bits : bits;
   const std::string decimals = std::to_string(magnitude % 100);
-  return (amount < 0 ? "-" : "") + std::to_string(magnitude / 100) +
-         (decimals.size() == 1 ? ".0" : ".") + decimals;
+  std::string text = amount < 0 ? "-" : "";
+  text += std::to_string(magnitude / 100);
+  return text + (decimals.size() == 1 ? ".0" : ".") + decimals;
 }
 
 cents effect_of(const tivex_stmt_tx_t& entry) {

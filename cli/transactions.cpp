@@ -1,6 +1,8 @@
 #include "transactions.h"
 
 #include <cstdint>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "csv_reader.h"
@@ -10,38 +12,41 @@
 namespace tivex_program {
 namespace {
 
-// Reports the first cell that the program itself refuses.
-bool cells_are_sound(const csv_row& row, const std::vector<const column*>& columns,
-                     fault_report& faults) {
+using columns_of_file = std::vector<const column*>;
+
+// The first cell that the program itself refuses.
+std::optional<row_fault> unsound_cell(const csv_row& row, const columns_of_file& columns) {
+  if (!row.fault.empty()) return row_fault{"", row.fault};
   if (row.cells.size() != columns.size()) {
-    faults.add(row.line, std::to_string(row.cells.size()) + " cells, the header names " +
-                             std::to_string(columns.size()));
-    return false;
+    return row_fault{"", std::to_string(row.cells.size()) + " cells, the header names " +
+                             std::to_string(columns.size())};
   }
   for (std::size_t i = 0; i < columns.size(); ++i) {
     if (row.cells[i].empty()) continue;
     const std::string fault = columns[i]->rule(row.cells[i]);
-    if (fault.empty()) continue;
-    faults.add(row.line, columns[i]->key, fault);
-    return false;
+    if (!fault.empty()) return row_fault{columns[i]->key, fault};
   }
-  return true;
+  return std::nullopt;
 }
 
-// An empty cell leaves its key out.
-void list_cells(const csv_row& row, const std::vector<const column*>& columns,
-                std::vector<tivex_keyvalue_t>& list) {
-  list.clear();
+// A structured address is written when it has a town or a country; otherwise its
+// other parts would be lost.
+std::optional<row_fault> lost_address(const csv_row& row, const columns_of_file& columns) {
+  bool has_parts = false;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (!row.cells[i].empty()) list.push_back({columns[i]->key, row.cells[i].c_str()});
+    if (row.cells[i].empty()) continue;
+    const std::string_view key = columns[i]->key;
+    if (key == "addrCC" || key == "addrTown") return std::nullopt;
+    has_parts = has_parts || columns[i]->only_rulebook != nullptr;
   }
-  list.push_back({nullptr, nullptr});
+  if (!has_parts) return std::nullopt;
+  return row_fault{"addrTown", "missing (the address would not be written)"};
 }
 
 }  // namespace
 
 void add_transactions(tivex_t* message, input_file& input, const row_format& format,
-                      fault_report& faults) {
+                      schema_probe* probe, fault_report& faults) {
   csv_reader reader(input, format.delimiter);
   csv_row row;
   if (!reader.next(row)) {
@@ -56,17 +61,20 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   std::uint64_t rows = 0;
   while (reader.next(row)) {
     progress.show(++rows, input.bytes_read());
-    if (!row.fault.empty()) {
-      faults.add(row.line, row.fault);
-      continue;
+    std::optional<row_fault> fault = unsound_cell(row, columns);
+    if (!fault && probe != nullptr) fault = lost_address(row, columns);
+    if (!fault) {
+      list_cells(row, columns, list);
+      if (tivex_add(message, list.data()) == 1) {
+        if (probe != nullptr) probe->add(row, columns, faults);
+        continue;
+      }
+      fault = faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
     }
-    if (!cells_are_sound(row, columns, faults)) continue;
-    list_cells(row, columns, list);
-    if (tivex_add(message, list.data()) == 1) continue;
-    const row_fault fault =
-        faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
-    faults.add(row.line, fault.key, fault.reason);
+    if (probe != nullptr) probe->finish(columns, faults);
+    faults.add(row.line, fault->key, fault->reason);
   }
+  if (probe != nullptr) probe->finish(columns, faults);
   if (!input.error().empty()) {
     faults.add(input.error());
   } else if (rows == 0) {

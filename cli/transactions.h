@@ -5,6 +5,7 @@
 #include "fault_report.h"
 #include "handles.h"
 #include "input_file.h"
+#include "schema_probe.h"
 #include "transaction_kind.h"
 
 namespace tivex_program {
@@ -16,9 +17,10 @@ struct row_format {
   std::string rulebook;
 };
 
-// Adds each row of the file to the message as one transaction. The message is
-// complete only when no fault was reported.
+// Adds each row of the file to the message as one transaction and, when there is a
+// probe, has it look at the row. The message is complete only when no fault was
+// reported.
 void add_transactions(tivex_t* message, input_file& input, const row_format& format,
-                      fault_report& faults);
+                      schema_probe* probe, fault_report& faults);
 
 }  // namespace tivex_program

@@ -9,7 +9,8 @@
 #include "tivex.h"
 
 static int fill_header(tivex_t *msg) {
-  return tivex_setName(msg, "Kontor & Partner") &&
+  return tivex_setStrict(msg, 1) && /* only what the bank's schema accepts */
+         tivex_setName(msg, "Kontor & Partner") &&
          tivex_setIBAN(msg, "AT611904300234573201") &&
          tivex_setBIC(msg, "BKAUATWW") &&
          tivex_setDate(msg, "2026-12-01");

@@ -382,13 +382,13 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * from 1), and sums come last; "%s" is the key at the first place and the schema
  * version at the second:
  *   "message: %s ..." with IBAN, BIC, name, creditor identifier, date, message id,
- *   transactions, sum or local instrument COR1, "transaction %u: %s ..." with a
+ *   transactions, sum or local instrument, "transaction %u: %s ..." with a
  *   key of tivex_add, and
  *   "missing (required by %s)", "is not a calendar date (required by %s)",
  *   "has character '%c' (not allowed by %s)",
  *   "has byte 0x%02X (not allowed by %s)" (by the schema's version, or by XML),
  *   "above 999999999.99 (not allowed by %s)",
- *   "of more than 18 digits (not allowed by %s)", "not allowed by %s",
+ *   "of more than 18 digits (not allowed by %s)", "is COR1 (not allowed by %s)",
  *   "is not two letters, two digits, business code and national identifier
  *   (required by %s)", "above %u bytes, payment ids above 35 (not allowed by %s)"
  *   (they are the message's with "-P" and the block's number).

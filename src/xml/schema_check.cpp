@@ -79,7 +79,7 @@ constexpr std::array<value_row<message>, 2> direct_debit_header = {{
          [](const message& msg, const document_schema& schema) {
            const bool refused =
                msg.local_instrument == TIVEX_DD_COR1 && schema.asks_for(DEMAND_NO_COR1);
-           return keyed_flaw{"local instrument COR1", {refused ? flaw::not_allowed : flaw::none}};
+           return keyed_flaw{"local instrument", {refused ? flaw::cor1 : flaw::none}};
          }},
 }};
 

@@ -105,8 +105,8 @@ void describe(char* out, std::size_t size, value_flaw found, const char* version
                             version);
     case flaw::too_many_digits:
       return bounded_format(out, size, "of more than 18 digits (not allowed by %s)", version);
-    case flaw::not_allowed:
-      return bounded_format(out, size, "not allowed by %s", version);
+    case flaw::cor1:
+      return bounded_format(out, size, "is COR1 (not allowed by %s)", version);
     default:
       return shown ? bounded_format(out, size, "has character '%c' (not allowed by %s)", found.byte,
                                     authority)

@@ -16,7 +16,7 @@ enum class flaw {
   no_creditor_form,  // of creditor identifiers
   too_high,          // above 999999999.99
   too_many_digits,   // for the schema's numbers
-  not_allowed,
+  cor1,              // as the local instrument
 };
 
 struct value_flaw {

@@ -89,7 +89,8 @@ TEST_P(Cases, EndAsTheirFileSays) {
 
 INSTANTIATE_TEST_SUITE_P(Program, Cases,
                          testing::Values("account_check", "bank", "faults", "iban_check",
-                                         "iban_convert", "output", "rows", "statement", "usage"),
+                                         "iban_convert", "output", "rows", "schema", "statement",
+                                         "usage"),
                          [](const auto& file) { return file.param; });
 
 TEST(Rows, AreWholeWhereBuffersEnd) {

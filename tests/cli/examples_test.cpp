@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iomanip>
 #include <map>
 #include <numeric>
@@ -55,7 +56,8 @@ std::string values_of_csv(const std::string& csv, const std::string& usual_date)
 
 std::string values_of_document(const std::string& xml) {
   static const std::regex value(
-      "<(?:PmtInfId>[^<]*-P|NbOfTxs>|CtrlSum>|SeqTp>|Reqd(?:Exctn|Colltn)Dt>|InstdAmt [^>]*>)"
+      "<(?:PmtInfId>[^<]*-P|NbOfTxs>|CtrlSum>|SeqTp>|Reqd(?:Exctn|Colltn)Dt>(?:\\s*<Dt>)?|InstdAmt "
+      "[^>]*>)"
       "([^<]*)<");
   std::string text;
   for (std::sregex_iterator at(xml.begin(), xml.end(), value), end; at != end; ++at)
@@ -75,6 +77,27 @@ void expect_agreement(const std::string& command, const std::string& file,
   EXPECT_TRUE(values.starts_with("200\n"));
 }
 
+// The schemas by which a document is judged, the German subsets for German banks.
+constexpr const char* validate = R"sh(
+    version=$(sed -n 's/.*:xsd:\(pain[0-9.]*\)".*/\1/p' x.xml)
+    files=$TIVEX_SCHEMAS/iso/$version.xsd
+    [ $german = 0 ] ||
+      files="$files $TIVEX_SCHEMAS/dk/$version.xsd $TIVEX_SCHEMAS/dk/${version}_GBIC*.xsd"
+    for file in $files; do
+      [ ! -e $file ] || xmllint --noout --schema $file x.xml 2>&1 || exit
+    done)sh";
+
+void expect_validity(const std::string& command, const std::string& file,
+                     const std::string& rulebook) {
+  const bool german = rulebook.starts_with("DE");
+  const std::string csv = file + (rulebook == "DE-3.7" ? ".csv" : "_address_lines.csv");
+  const program_result result = run(command + " --rulebook " + rulebook + " $examples/" + csv +
+                                    " -o x.xml && german=" + (german ? "1" : "0") + validate);
+  EXPECT_EQ(result.status, 0) << result.output << result.errors;
+  const std::string validates = "x.xml validates\n";
+  EXPECT_EQ(result.output, rulebook.starts_with("DE-3") ? validates + validates : validates);
+}
+
 class Examples : public testing::TestWithParam<const char*> {};
 
 TEST_P(Examples, DocumentsAgreeWithTheFiles) {
@@ -83,6 +106,12 @@ TEST_P(Examples, DocumentsAgreeWithTheFiles) {
   // That the other rulebooks refuse COR1 is among the cases of usage.
   if (contains("DE-2.7 DE-2.8 DE-2.9 AT-6 NL-6", GetParam()))
     expect_agreement("debit --type COR1", "collections", GetParam(), "2026-12-01");
+}
+
+TEST_P(Examples, DocumentsMeetTheirSchemas) {
+  if (std::getenv("TIVEX_SCHEMAS") == nullptr) GTEST_SKIP() << "TIVEX_SCHEMAS names no folder";
+  expect_validity("transfer", "payroll", GetParam());
+  expect_validity("debit", "collections", GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Rulebooks, Examples,

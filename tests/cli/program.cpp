@@ -13,7 +13,7 @@ const std::string commands =
     "/examples'\n"
     "with_account() { command=$1; shift; "
     "  tivex $command --name 'Beispiel GmbH' --iban DE89370400440532013000 \"$@\"; }\n"
-    "transfer() { with_account credit-transfer --date 2026-11-27 \"$@\"; }\n"
+    "transfer() { with_account credit-transfer --bic COBADEFFXXX --date 2026-11-27 \"$@\"; }\n"
     "debit() { with_account direct-debit --bic COBADEFFXXX --creditor-id DE98ZZZ09999999999 "
     "  --date 2026-12-01 \"$@\"; }\n";
 

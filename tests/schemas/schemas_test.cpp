@@ -20,7 +20,7 @@ const std::map<std::string, std::vector<std::string>> elements_of_keys = {
     {"BIC", {"BIC", "BICFI"}},
     {"name", {"Nm"}},
     {"creditor identifier", {"Id"}},
-    {"local instrument COR1", {"Cd"}},
+    {"local instrument", {"Cd"}},
     {"message id", {"PmtInfId"}},
     {"transactions", {"PmtInf"}},
     {"sum", {"CtrlSum"}},
@@ -41,7 +41,7 @@ const std::map<std::string, std::vector<std::string>> elements_of_keys = {
 struct refusal {
   explicit refusal(const std::string& error) {
     static const std::regex form(
-        R"((message|transaction (\d+)): (.+?) (?:missing|is|has|above|of|not|longer) .*by (.*)\))");
+        R"((message|transaction (\d+)): (.+?) (?:missing|is|has|above|of) .*by (.*)\))");
     std::smatch parts;
     known = std::regex_match(error, parts, form);
     if (known && parts[2].matched) transaction = std::stoul(parts[2]);

@@ -1,0 +1,68 @@
+#include "schema_probe.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "schema_flaw.h"
+#include "sound_values.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr std::size_t batch_size = 500;
+
+// A probe's own identifier: generated ones are numbered for the documents written.
+constexpr header_option probe_id = {"", "", "", false, tivex_setMessageId};
+
+std::string refusal_of(tivex_t* message) {
+  const document_handle document(tivex_toXML(message));
+  return document ? "" : tivex_getError(message);
+}
+
+}  // namespace
+
+schema_probe::schema_probe(payment_header header) : header_(std::move(header)) {
+  header_.strict = true;
+  header_.values.insert(header_.values.begin(), {&probe_id, "probe"});
+}
+
+std::string schema_probe::header_fault() const {
+  std::string fault;
+  const message_handle message = make_message(header_, fault);
+  std::vector<tivex_keyvalue_t> list(std::begin(sound_values), std::end(sound_values));
+  list.push_back({nullptr, nullptr});
+  tivex_add(message.get(), list.data());
+  const std::string refused = refusal_of(message.get());
+  return refused.empty() ? fault : header_flaw(refused);
+}
+
+void schema_probe::add(csv_row& row, const std::vector<const column*>& columns,
+                       fault_report& faults) {
+  batch_.push_back(std::exchange(row, {}));
+  if (batch_.size() == batch_size) finish(columns, faults);
+}
+
+void schema_probe::finish(const std::vector<const column*>& columns, fault_report& faults) {
+  if (!batch_.empty() && !refusal(batch_, columns).empty()) {
+    for (const csv_row& row : batch_) {
+      const row_fault flaw = transaction_flaw(refusal({&row, 1}, columns));
+      // What is wrong with the header as a whole shows when the document is written.
+      if (!flaw.key.empty()) faults.add(row.line, flaw.key, flaw.reason);
+    }
+  }
+  batch_.clear();
+}
+
+std::string schema_probe::refusal(std::span<const csv_row> rows,
+                                  const std::vector<const column*>& columns) const {
+  std::string fault;
+  const message_handle message = make_message(header_, fault);
+  std::vector<tivex_keyvalue_t> list;
+  for (const csv_row& row : rows) {
+    list_cells(row, columns, list);
+    tivex_add(message.get(), list.data());
+  }
+  return refusal_of(message.get());
+}
+
+}  // namespace tivex_program

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "columns.h"
+#include "csv_reader.h"
+#include "fault_report.h"
+#include "payment_message.h"
+
+namespace tivex_program {
+
+// Finds each row that the schema refuses; the library names the first one of a
+// message only. Rows are tried in batches: one document tells whether all of a
+// batch are accepted, and only when they are not is one written for each.
+class schema_probe {
+ public:
+  // The header must have been set once without a fault.
+  explicit schema_probe(payment_header header);
+
+  // What the schema refuses of the header, with the option; empty when nothing.
+  std::string header_fault() const;
+
+  // Takes a row that the message has taken. Faults are reported in the order of
+  // the lines, at the latest by `finish`.
+  void add(csv_row& row, const std::vector<const column*>& columns, fault_report& faults);
+  void finish(const std::vector<const column*>& columns, fault_report& faults);
+
+ private:
+  // The library's text when a message of these rows is refused, else empty.
+  std::string refusal(std::span<const csv_row> rows,
+                      const std::vector<const column*>& columns) const;
+
+  payment_header header_;
+  std::vector<csv_row> batch_;
+};
+
+}  // namespace tivex_program
