@@ -170,8 +170,9 @@ TIVEX_API const char *tivex_getError(const tivex_t *msg);
 TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
 
 /*
- * Sets the BIC (ISO 9362) of the message's own bank: 8 or 11 letters and
- * digits, stored in upper case.
+ * Sets the BIC (ISO 9362) of the message's own bank, stored in upper case: six
+ * letters, a letter or 2 to 9, a letter but O or a digit, and three letters or
+ * digits or none, so 8 or 11 bytes.
  *
  * Errors: "tivex_setBIC: invalid BIC" (null or longer than 11 bytes),
  * "tivex_setBIC: invalid BIC format", "tivex_setBIC: strdup() failed".
@@ -192,7 +193,8 @@ TIVEX_API int tivex_setName(tivex_t *msg, const char *name);
 /*
  * Sets the creditor identifier of a direct debit, 7 to 35 bytes, checked by
  * ISO 7064 MOD 97-10 as the European Payments Council prescribes for it (the
- * creditor business code, characters 5 to 7, takes no part) and stored as given.
+ * creditor business code, characters 5 to 7, takes no part and is not looked at),
+ * stored as given and written without escaping.
  *
  * Errors: "Creditor Identifier too short", "Creditor Identifier too long",
  * "Invalid character in Creditor Identifier",
@@ -261,7 +263,9 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  *   key          value                                            length in bytes
  *   "iban"       the other side's IBAN, required                  15 to 31
  *   "amount"     euro, decimal point, rounded half up to cents,   -
- *                required
+ *                required; as a binary fraction, so that 1.005
+ *                is 1.00 and cents are exact below 2^45 euro;
+ *                white space may stand in front only
  *   "bic"        the other side's bank; required under "DE-2.6"   8 or 11
  *   "name"       the other side's name                            1 to 70
  *   "ref"        unstructured remittance information              0 to 140
@@ -298,6 +302,10 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  * "purp", "date" and "mdate" are checked for their length only, structured
  * address parts for theirs, and "purp", "date", "mdate", "id", "mref" and
  * "old_mref" are written without escaping.
+ *
+ * An address is written in the form of the rulebook that is selected when the
+ * document is written: structured parts, when there is a town or a country among
+ * them, or address lines and country. What that form has no place for is left out.
  *
  * Returns 1, or 0 with the reason in the message's error text; then the
  * message's transactions are as before. For a null message returns 0.
@@ -360,10 +368,12 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * In the strict mode (tivex_setStrict) the document is valid by its ISO 20022
  * schema and, under a German rulebook, by the subset of it that the German banking
  * industry prescribes and German banks check. Against the prescribed form the
- * execution date of pain.001.001.09 stands within Dt, and elements that would be
- * empty are left out where the schema can do without them. A message that cannot
- * become such a document is refused before anything is written; values are never
- * altered. docs/schemas.md tells what each schema asks for.
+ * execution date of pain.001.001.09 stands within Dt, elements that would be
+ * empty are left out where the schema can do without them, and sums are exact (the
+ * prescribed ones are sums of binary fractions). A message whose values do not make
+ * such a document is refused before anything is written; values are never altered,
+ * though by XML's rules a reader takes a carriage return as a line feed.
+ * docs/schemas.md tells what each schema asks for.
  *
  * Returns a new NUL-terminated text that the host owns and releases with the C
  * run-time's free() (it holds account data: overwrite it first where that
@@ -379,14 +389,17 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * When memory is exhausted the error text may stay as it was.
  * In the strict mode also the first flaw of the values: those of the header stand
  * before those of the transactions, which stand in the order of adding (counted
- * from 1), and sums come last; "%s" is the key at the first place and the schema
- * version at the second:
+ * from 1), each with the keys in the order name, bic, address, purp, amount, date,
+ * id, mref, mdate, old_mref, and sums come last; "%s" is the key at the first place
+ * and the schema version at the second:
  *   "message: %s ..." with IBAN, BIC, name, creditor identifier, date, message id,
  *   transactions, sum or local instrument, "transaction %u: %s ..." with a
  *   key of tivex_add, and
  *   "missing (required by %s)", "is not a calendar date (required by %s)",
  *   "has character '%c' (not allowed by %s)",
- *   "has byte 0x%02X (not allowed by %s)" (by the schema's version, or by XML),
+ *   "has byte 0x%02X (not allowed by %s)" (by the schema's version, or by XML, in
+ *   which a value that is not escaped must hold no markup either),
+ *   "has ']]>' (not allowed by XML)",
  *   "above 999999999.99 (not allowed by %s)",
  *   "of more than 18 digits (not allowed by %s)", "is COR1 (not allowed by %s)",
  *   "is not two letters, two digits, business code and national identifier

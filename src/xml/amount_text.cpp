@@ -20,11 +20,16 @@ std::int64_t to_int64(double value) {
 
 }  // namespace
 
+std::int64_t cents_of(double value) { return to_int64(round_half_up(value * 100.0)); }
+
+void format_cents(char* out, std::size_t size, std::int64_t cents) {
+  const std::int64_t magnitude = cents < 0 ? -cents : cents;
+  bounded_format(out, size, "%s%" PRId64 ".%02" PRId64, cents < 0 ? "-" : "", magnitude / 100,
+                 magnitude % 100);
+}
+
 void format_amount(char* out, std::size_t size, double value) {
-  const std::int64_t signed_cents = to_int64(round_half_up(value * 100.0));
-  const std::int64_t cents = signed_cents < 0 ? -signed_cents : signed_cents;
-  bounded_format(out, size, "%s%" PRId64 ".%02" PRId64, signed_cents < 0 ? "-" : "", cents / 100,
-                 cents % 100);
+  format_cents(out, size, cents_of(value));
 }
 
 void format_count(char* out, std::size_t size, std::uint32_t count) {

@@ -8,6 +8,13 @@ namespace tivex {
 // Large enough for every amount text (at most 21 characters) and count text.
 using number_text = char[128];
 
+// A sum in euro as whole cents, rounded half up; the largest number in magnitude
+// where 64 bits cannot hold them.
+std::int64_t cents_of(double value);
+
+// Writes cents as euro with two decimals.
+void format_cents(char* out, std::size_t size, std::int64_t cents);
+
 // Writes a sum in euro with two decimals, rounded half up to cents. A sum beyond
 // 92233720368547758.07 is written as that.
 void format_amount(char* out, std::size_t size, double value);

@@ -22,7 +22,7 @@ void write_execution_date(document_writer& out, const message& msg, const docume
 
 void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
                           const payment_block<ct_transaction>& block, int number) {
-  write_payment_start(out, msg, "TRF", number, block.count, block.sum);
+  write_payment_start(out, msg, "TRF", number, block.totals);
   {
     const element type(out, "PmtTpInf");
     write_service_level(out);

@@ -61,7 +61,7 @@ void write_creditor_scheme(document_writer& out, const owned_text& creditor_id) 
 
 void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
                           const payment_block<dd_transaction>& block, int number) {
-  write_payment_start(out, msg, "DD", number, block.count, block.sum);
+  write_payment_start(out, msg, "DD", number, block.totals);
   write_payment_type(out, local_instrument_of(msg),
                      sequence_texts[static_cast<std::size_t>(block.slot)]);
   out.value("ReqdColltnDt", block.date);

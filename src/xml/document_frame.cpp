@@ -5,17 +5,18 @@
 #include "xml/amount_text.h"
 #include "xml/document_stamp.h"
 #include "xml/parties.h"
+#include "xml/value_flaw.h"
 
 namespace tivex {
 
 namespace {
 
 // The number of transactions and the sum of their amounts.
-void write_totals(document_writer& out, std::uint32_t count, double sum) {
+void write_totals(document_writer& out, const message& msg, const payment_totals& totals) {
   number_text text;
-  format_count(text, sizeof text, count);
+  format_count(text, sizeof text, totals.count);
   out.value("NbOfTxs", text);
-  format_amount(text, sizeof text, sum);
+  format_cents(text, sizeof text, stated_cents(msg, totals));
   out.value("CtrlSum", text);
 }
 
@@ -26,6 +27,11 @@ void write_payment_id(document_writer& out, const message& msg, int number) {
 }
 
 }  // namespace
+
+std::int64_t stated_cents(const message& msg, const payment_totals& totals) {
+  const bool exact = msg.strict != 0 && !sum_flaw(totals.cents);
+  return exact ? totals.cents : cents_of(totals.sum);
+}
 
 const document_schema* selected_schema(message& msg) {
   const document_schema* const schema = schema_of(rulebook);
@@ -49,23 +55,24 @@ document_attributes::document_attributes(const document_form& form) {
   }
 }
 
-void write_group_header(document_writer& out, const message& msg, std::time_t moment) {
+void write_group_header(document_writer& out, const message& msg, const payment_totals& totals,
+                        std::time_t moment) {
   creation_text created;
   format_creation_time(created, moment);
 
   const element header(out, "GrpHdr");
   out.value("MsgId", msg.message_id.c_str());
   out.value("CreDtTm", created);
-  write_totals(out, msg.tx_count, msg.control_sum);
+  write_totals(out, msg, totals);
   write_party(out, "InitgPty", msg.name);
 }
 
 void write_payment_start(document_writer& out, const message& msg, std::string_view method,
-                         int number, std::uint32_t count, double sum) {
+                         int number, const payment_totals& totals) {
   write_payment_id(out, msg, number);
   out.fixed("PmtMtd", method);
   out.fixed("BtchBookg", msg.batch_booking == 1 ? "true" : "false");
-  write_totals(out, count, sum);
+  write_totals(out, msg, totals);
 }
 
 void write_service_level(document_writer& out) {

@@ -24,6 +24,10 @@ struct document_form {
 // there is none.
 const document_schema* selected_schema(message& msg);
 
+// The sum in cents that a document states: the prescribed one, in the strict mode
+// the exact one where the schema has room for its digits.
+std::int64_t stated_cents(const message& msg, const payment_totals& totals);
+
 // The attributes of the Document element.
 class document_attributes {
  public:
@@ -34,12 +38,13 @@ class document_attributes {
   char text_[320];
 };
 
-void write_group_header(document_writer& out, const message& msg, std::time_t moment);
+void write_group_header(document_writer& out, const message& msg, const payment_totals& totals,
+                        std::time_t moment);
 
 // The elements that payment blocks begin with. `method` is the payment method;
 // blocks are numbered from 1.
 void write_payment_start(document_writer& out, const message& msg, std::string_view method,
-                         int number, std::uint32_t count, double sum);
+                         int number, const payment_totals& totals);
 
 void write_service_level(document_writer& out);
 
@@ -65,7 +70,7 @@ bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form
     const document_attributes attributes(form);
     const element document(writer, "Document", attributes.c_str());
     const element initiation(writer, form.initiation);
-    write_group_header(writer, msg, form.moment);
+    write_group_header(writer, msg, blocks.totals(), form.moment);
     blocks.for_each([&](const payment_block<record>& block, int number) {
       const element payment(writer, "PmtInf");
       write.header(writer, msg, form.schema, block, number);

@@ -12,6 +12,7 @@
 #include "core/message.h"
 #include "transactions/transaction.h"
 #include "xml/date_key.h"
+#include "xml/payment_totals.h"
 
 namespace tivex {
 
@@ -30,8 +31,7 @@ template <class record>
 struct payment_block {
   const char* date = nullptr;
   std::int32_t slot = 0;
-  double sum = 0.0;
-  std::uint32_t count = 0;
+  payment_totals totals;
   std::span<const grouped_transaction<record>> transactions;
 };
 
@@ -52,6 +52,9 @@ class payment_blocks {
   template <class block_function>
   void for_each(block_function use) const;
 
+  // Of all blocks.
+  const payment_totals& totals() const { return totals_; }
+
  private:
   using entry = grouped_transaction<record>;
   struct free_delete {
@@ -64,7 +67,7 @@ class payment_blocks {
 
   const char* default_date_ = nullptr;
   std::unique_ptr<entry[], free_delete> entries_;
-  std::uint32_t count_ = 0;
+  payment_totals totals_;
 };
 
 template <class record>
@@ -81,12 +84,12 @@ bool payment_blocks<record>::group(message& msg, slot_function slot_of) {
     const char* const date = date_of(*tx);
     if (std::strlen(date) > date_key::length) return msg.fail("Internal error (pmt not found)");
     all[place] = {date_key(date), slot_of(*tx), place, tx};
+    totals_.add(tx->amount);
   }
   std::sort(all.begin(), all.end(), [](const entry& left, const entry& right) {
     return std::tie(left.date, left.slot, left.place) <
            std::tie(right.date, right.slot, right.place);
   });
-  count_ = msg.tx_count;
   return true;
 }
 
@@ -98,20 +101,19 @@ payment_block<record> payment_blocks<record>::first_block(std::span<const entry>
   block.slot = first.slot;
   for (const entry& candidate : entries) {
     if (candidate.date != first.date || candidate.slot != first.slot) break;
-    block.sum += candidate.tx->amount;
-    ++block.count;
+    block.totals.add(candidate.tx->amount);
   }
-  block.transactions = entries.first(block.count);
+  block.transactions = entries.first(block.totals.count);
   return block;
 }
 
 template <class record>
 template <class block_function>
 void payment_blocks<record>::for_each(block_function use) const {
-  std::span<const entry> left(entries_.get(), count_);
+  std::span<const entry> left(entries_.get(), totals_.count);
   for (int number = 1; !left.empty(); ++number) {
     const payment_block<record> block = first_block(left);
-    left = left.subspan(block.count);
+    left = left.subspan(block.totals.count);
     use(block, number);
   }
 }

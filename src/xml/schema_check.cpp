@@ -58,7 +58,7 @@ keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
 
 template <class record>
 keyed_flaw find_amount_flaw(const record& tx, const document_schema& schema) {
-  return {"amount", amount_flaw(tx.amount, schema)};
+  return {"amount", amount_flaw(cents_of(tx.amount), schema)};
 }
 
 // Without transactions no other value of the header is written.
@@ -107,7 +107,7 @@ constexpr std::array<value_row<dd_transaction>, 9> direct_debit_rows = {{
 
 // Notes a flaw of the message itself (number 0) or of a transaction.
 bool refuse(message& msg, std::uint32_t number, const keyed_flaw& flawed, const char* version) {
-  char reason[128];
+  char reason[128] = {};
   describe(reason, sizeof reason, flawed.found, version);
   if (number == 0) return msg.fail_with("message: %s %s", flawed.key, reason);
   return msg.fail_with("transaction %" PRIu32 ": %s %s", number, flawed.key, reason);
@@ -156,9 +156,9 @@ bool frame_accepted(message& msg, const document_form& form, const payment_block
 // Sums come last: one that is too long may come from one amount.
 template <class record>
 bool sums_accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks) {
-  value_flaw found = sum_flaw(msg.control_sum);
-  blocks.for_each([&found](const payment_block<record>& block, int /*number*/) {
-    if (!found) found = sum_flaw(block.sum);
+  value_flaw found = sum_flaw(stated_cents(msg, blocks.totals()));
+  blocks.for_each([&](const payment_block<record>& block, int /*number*/) {
+    if (!found) found = sum_flaw(stated_cents(msg, block.totals));
   });
   return !found || refuse(msg, 0, {"sum", found}, form.version);
 }

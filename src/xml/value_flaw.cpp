@@ -1,20 +1,17 @@
 #include "xml/value_flaw.h"
 
 #include <cstring>
-#include <string_view>
 
 #include "core/bounded_format.h"
 #include "transactions/date_text.h"
 #include "validation/ascii.h"
-#include "xml/amount_text.h"
 #include "xml/xml_text.h"
 
 namespace tivex {
 
 namespace {
 
-constexpr std::string_view highest_amount = "999999999.99";
-constexpr std::size_t most_digits = 18;
+constexpr std::int64_t highest_cents = 99'999'999'999;
 
 bool is_sepa_character(char c, identifier_set set) {
   if (c == ' ') return set == identifier_set::sepa;
@@ -34,11 +31,13 @@ value_flaw text_flaw(const char* value, const document_schema& schema, identifie
   return {};
 }
 
-// The digits of an amount text without the zeros that end it behind the point.
-std::size_t significant_digits(const char* amount) {
-  std::size_t length = std::strlen(amount) - 1;  // without the point
-  for (const char* last = amount + length; *last == '0'; --last) --length;
-  return length;
+void describe_character(char* out, std::size_t size, char byte, const char* authority) {
+  if (byte < ' ' || byte > '~') {
+    bounded_format(out, size, "has byte 0x%02X (not allowed by %s)",
+                   static_cast<unsigned char>(byte), authority);
+  } else {
+    bounded_format(out, size, "has character '%c' (not allowed by %s)", byte, authority);
+  }
 }
 
 }  // namespace
@@ -49,7 +48,9 @@ value_flaw escaped_text_flaw(const char* value, const document_schema& /*schema*
 
 value_flaw plain_text_flaw(const char* value, const document_schema& /*schema*/) {
   const char* const illegal = find_illegal_character(value);
-  return ill_formed_at(illegal != nullptr ? illegal : find_markup(value));
+  const char* const markup = find_markup(value);
+  return ill_formed_at(illegal == nullptr || (markup != nullptr && markup < illegal) ? markup
+                                                                                     : illegal);
 }
 
 value_flaw identifier_flaw(const char* value, const document_schema& schema) {
@@ -74,44 +75,43 @@ value_flaw date_flaw(const char* value, const document_schema& /*schema*/) {
   return is_calendar_date(value) ? value_flaw{} : value_flaw{flaw::no_date};
 }
 
-value_flaw amount_flaw(double amount, const document_schema& schema) {
-  if (!schema.asks_for(DEMAND_SEPA_AMOUNT)) return sum_flaw(amount);
-  number_text text;
-  format_amount(text, sizeof text, amount);
-  return std::strlen(text) > highest_amount.size() ? value_flaw{flaw::too_high} : value_flaw{};
+value_flaw amount_flaw(std::int64_t cents, const document_schema& schema) {
+  if (!schema.asks_for(DEMAND_SEPA_AMOUNT)) return sum_flaw(cents);
+  return cents > highest_cents ? value_flaw{flaw::too_high} : value_flaw{};
 }
 
-value_flaw sum_flaw(double sum) {
-  number_text text;
-  format_amount(text, sizeof text, sum);
-  return significant_digits(text) > most_digits ? value_flaw{flaw::too_many_digits} : value_flaw{};
+// Zeros that end the decimals are no digits of a number.
+value_flaw sum_flaw(std::int64_t cents) {
+  constexpr std::int64_t least_of_19_digits = 1'000'000'000'000'000'000;
+  for (int zeros = 0; zeros < 2 && cents % 10 == 0; ++zeros) cents /= 10;
+  return cents >= least_of_19_digits ? value_flaw{flaw::too_many_digits} : value_flaw{};
 }
 
 void describe(char* out, std::size_t size, value_flaw found, const char* version) {
-  const bool shown = found.byte >= ' ' && found.byte <= '~';
-  const char* const authority = found.kind == flaw::ill_formed ? "XML" : version;
   switch (found.kind) {
+    case flaw::none:
+      return;
     case flaw::missing:
       return bounded_format(out, size, "missing (required by %s)", version);
     case flaw::no_date:
       return bounded_format(out, size, "is not a calendar date (required by %s)", version);
+    case flaw::character:
+      return describe_character(out, size, found.byte, version);
+    case flaw::ill_formed:
+      // Of the only markup that is longer than a character this is the first one.
+      if (found.byte == ']') return bounded_format(out, size, "has ']]>' (not allowed by XML)");
+      return describe_character(out, size, found.byte, "XML");
     case flaw::no_creditor_form:
       return bounded_format(out, size,
                             "is not two letters, two digits, business code and national "
                             "identifier (required by %s)",
                             version);
     case flaw::too_high:
-      return bounded_format(out, size, "above %s (not allowed by %s)", highest_amount.data(),
-                            version);
+      return bounded_format(out, size, "above 999999999.99 (not allowed by %s)", version);
     case flaw::too_many_digits:
       return bounded_format(out, size, "of more than 18 digits (not allowed by %s)", version);
     case flaw::cor1:
       return bounded_format(out, size, "is COR1 (not allowed by %s)", version);
-    default:
-      return shown ? bounded_format(out, size, "has character '%c' (not allowed by %s)", found.byte,
-                                    authority)
-                   : bounded_format(out, size, "has byte 0x%02X (not allowed by %s)",
-                                    static_cast<unsigned char>(found.byte), authority);
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "xml/schema.h"
 
@@ -36,11 +37,12 @@ value_test mandate_reference_flaw;
 value_test creditor_identifier_flaw;
 value_test date_flaw;
 
-// An amount in euro, and a sum of them.
-value_flaw amount_flaw(double amount, const document_schema& schema);
-value_flaw sum_flaw(double sum);
+// An amount in cents, and a sum of them.
+value_flaw amount_flaw(std::int64_t cents, const document_schema& schema);
+value_flaw sum_flaw(std::int64_t cents);
 
-// Says what is wrong, and by whose rules: the version's or XML's.
+// Says what is wrong, and by whose rules: the version's or XML's. Nothing is written
+// where nothing is wrong.
 void describe(char* out, std::size_t size, value_flaw found, const char* version);
 
 }  // namespace tivex
