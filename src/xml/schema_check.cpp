@@ -62,7 +62,7 @@ keyed_flaw find_amount_flaw(const record& tx, const document_schema& schema) {
 }
 
 // Without transactions no other value of the header is written.
-constexpr std::array<value_row<message>, 4> credit_transfer_header = {{
+constexpr auto credit_transfer_header = std::to_array<value_row<message>>({
     {.examine =
          [](const message& msg, const document_schema& /*schema*/) {
            return keyed_flaw{"transactions", {msg.tx_count == 0 ? flaw::missing : flaw::none}};
@@ -70,10 +70,10 @@ constexpr std::array<value_row<message>, 4> credit_transfer_header = {{
     {"IBAN", &message::iban, DEMAND_OWN_IBAN},
     {"BIC", &message::bic, DEMAND_OWN_BIC},
     {"name", &message::name, DEMAND_NAMES},
-}};
+});
 
 // The other values of the header have been found before.
-constexpr std::array<value_row<message>, 2> direct_debit_header = {{
+constexpr auto direct_debit_header = std::to_array<value_row<message>>({
     {"creditor identifier", &message::creditor_id, DEMAND_NOTHING, creditor_identifier_flaw},
     {.examine =
          [](const message& msg, const document_schema& schema) {
@@ -81,9 +81,9 @@ constexpr std::array<value_row<message>, 2> direct_debit_header = {{
                msg.local_instrument == TIVEX_DD_COR1 && schema.asks_for(DEMAND_NO_COR1);
            return keyed_flaw{"local instrument", {refused ? flaw::cor1 : flaw::none}};
          }},
-}};
+});
 
-constexpr std::array<value_row<ct_transaction>, 7> credit_transfer_rows = {{
+constexpr auto credit_transfer_rows = std::to_array<value_row<ct_transaction>>({
     {"name", &ct_transaction::name, DEMAND_NAMES},
     {"bic", &ct_transaction::bic, DEMAND_OTHER_BIC},
     {.examine = find_address_flaw<ct_transaction>},
@@ -91,9 +91,9 @@ constexpr std::array<value_row<ct_transaction>, 7> credit_transfer_rows = {{
     {.examine = find_amount_flaw<ct_transaction>},
     {"date", &ct_transaction::date, DEMAND_NOTHING, date_flaw},
     {"id", &ct_transaction::end_to_end_id, DEMAND_NOTHING, identifier_flaw},
-}};
+});
 
-constexpr std::array<value_row<dd_transaction>, 9> direct_debit_rows = {{
+constexpr auto direct_debit_rows = std::to_array<value_row<dd_transaction>>({
     {"name", &dd_transaction::name, DEMAND_NAMES},
     {"bic", &dd_transaction::bic, DEMAND_OTHER_BIC},
     {.examine = find_address_flaw<dd_transaction>},
@@ -103,7 +103,7 @@ constexpr std::array<value_row<dd_transaction>, 9> direct_debit_rows = {{
     {"mref", &dd_transaction::mandate_id, DEMAND_MANDATE, mandate_reference_flaw},
     {"mdate", &dd_transaction::mandate_date, DEMAND_MANDATE, date_flaw},
     {"old_mref", &dd_transaction::old_mandate_id, DEMAND_NOTHING, mandate_reference_flaw},
-}};
+});
 
 // Notes a flaw of the message itself (number 0) or of a transaction.
 bool refuse(message& msg, std::uint32_t number, const keyed_flaw& flawed, const char* version) {
