@@ -80,11 +80,11 @@ value_flaw amount_flaw(std::int64_t cents, const document_schema& schema) {
   return cents > highest_cents ? value_flaw{flaw::too_high} : value_flaw{};
 }
 
-// Zeros that end the decimals are no digits of a number.
+// 64 bits hold 19 digits; a zero that ends the decimals is not counted.
 value_flaw sum_flaw(std::int64_t cents) {
   constexpr std::int64_t least_of_19_digits = 1'000'000'000'000'000'000;
-  for (int zeros = 0; zeros < 2 && cents % 10 == 0; ++zeros) cents /= 10;
-  return cents >= least_of_19_digits ? value_flaw{flaw::too_many_digits} : value_flaw{};
+  const bool too_many = cents >= least_of_19_digits && cents % 10 != 0;
+  return too_many ? value_flaw{flaw::too_many_digits} : value_flaw{};
 }
 
 void describe(char* out, std::size_t size, value_flaw found, const char* version) {
