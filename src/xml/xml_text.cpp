@@ -7,7 +7,8 @@ namespace tivex {
 
 namespace {
 
-// A character as UTF-8 encodes it; no bytes when it is not encoded so.
+// A character as UTF-8 encodes it; NUL, which no document admits, when it is not
+// encoded so.
 struct character {
   std::uint32_t code = 0;
   int bytes = 0;
@@ -51,7 +52,7 @@ bool is_xml_character(std::uint32_t code) {
 const char* find_illegal_character(const char* text) {
   while (*text != '\0') {
     const character next = decode(text);
-    if (next.bytes == 0 || !is_xml_character(next.code)) return text;
+    if (!is_xml_character(next.code)) return text;
     text += next.bytes;
   }
   return nullptr;
