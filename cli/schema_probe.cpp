@@ -1,6 +1,6 @@
 #include "schema_probe.h"
 
-#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "schema_flaw.h"
