@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -84,8 +83,8 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   const payment_header header = header_of(command, arguments);
   std::string fault;
   const message_handle message = make_message(header, fault);
-  std::optional<schema_probe> probe;
-  if (fault.empty() && header.strict) fault = probe.emplace(header).header_fault();
+  schema_probe probe(header);
+  if (fault.empty()) fault = probe.header_fault();
   if (!fault.empty()) return usage_error(fault);
 
   if (same_file(arguments.input, arguments.output)) {
@@ -95,7 +94,7 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   fault_report faults(input.name());
   const row_format format{command.transactions, delimiters.at(arguments.delimiter),
                           arguments.rulebook};
-  add_transactions(message.get(), input, format, probe ? &*probe : nullptr, faults);
+  add_transactions(message.get(), input, format, probe, faults);
   if (!faults.empty()) {
     faults.print();
     return exit_failure;

@@ -11,9 +11,10 @@
 
 namespace tivex_program {
 
-// Finds each row that the schema refuses; the library names the first one of a
-// message only. Rows are tried in batches: one document tells whether all of a
-// batch are accepted, and only when they are not is one written for each.
+// Finds each row that the schema refuses, or that would lose its address; the library names the
+// first one of a message only. Messages that are not strict are not looked at. Rows are tried in
+// batches: one document tells whether all of a batch are accepted, and only when they are not is
+// one written for each.
 class schema_probe {
  public:
   // The header must have been set once without a fault.

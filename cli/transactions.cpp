@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include "csv_reader.h"
@@ -29,24 +28,10 @@ std::optional<row_fault> unsound_cell(const csv_row& row, const columns_of_file&
   return std::nullopt;
 }
 
-// A structured address is written when it has a town or a country; otherwise its
-// other parts would be lost.
-std::optional<row_fault> lost_address(const csv_row& row, const columns_of_file& columns) {
-  bool has_parts = false;
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (row.cells[i].empty()) continue;
-    const std::string_view key = columns[i]->key;
-    if (key == "addrCC" || key == "addrTown") return std::nullopt;
-    has_parts = has_parts || columns[i]->only_rulebook != nullptr;
-  }
-  if (!has_parts) return std::nullopt;
-  return row_fault{"addrTown", "missing (the address would not be written)"};
-}
-
 }  // namespace
 
 void add_transactions(tivex_t* message, input_file& input, const row_format& format,
-                      schema_probe* probe, fault_report& faults) {
+                      schema_probe& probe, fault_report& faults) {
   csv_reader reader(input, format.delimiter);
   csv_row row;
   if (!reader.next(row)) {
@@ -62,19 +47,18 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   while (reader.next(row)) {
     progress.show(++rows, input.bytes_read());
     std::optional<row_fault> fault = unsound_cell(row, columns);
-    if (!fault && probe != nullptr) fault = lost_address(row, columns);
     if (!fault) {
       list_cells(row, columns, list);
       if (tivex_add(message, list.data()) == 1) {
-        if (probe != nullptr) probe->add(row, columns, faults);
+        probe.add(row, columns, faults);
         continue;
       }
       fault = faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
     }
-    if (probe != nullptr) probe->finish(columns, faults);
+    probe.finish(columns, faults);
     faults.add(row.line, fault->key, fault->reason);
   }
-  if (probe != nullptr) probe->finish(columns, faults);
+  probe.finish(columns, faults);
   if (!input.error().empty()) {
     faults.add(input.error());
   } else if (rows == 0) {

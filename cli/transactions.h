@@ -17,10 +17,9 @@ struct row_format {
   std::string rulebook;
 };
 
-// Adds each row of the file to the message as one transaction and, when there is a
-// probe, has it look at the row. The message is complete only when no fault was
-// reported.
+// Adds each row of the file to the message as one transaction and has the probe look
+// at it. The message is complete only when no fault was reported.
 void add_transactions(tivex_t* message, input_file& input, const row_format& format,
-                      schema_probe* probe, fault_report& faults);
+                      schema_probe& probe, fault_report& faults);
 
 }  // namespace tivex_program

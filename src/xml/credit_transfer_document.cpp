@@ -35,7 +35,7 @@ void write_payment_header(document_writer& out, const message& msg, const docume
 }
 
 void write_creditor(document_writer& out, const ct_transaction& tx) {
-  const optional_element creditor(out, "Cdtr");
+  const element creditor(out, "Cdtr", left_out_when_empty);
   out.optional_escaped("Nm", tx.name);
   write_address(out, tx);
 }
@@ -47,7 +47,7 @@ void write_purpose(document_writer& out, const ct_transaction& tx) {
 }
 
 void write_remittance(document_writer& out, const ct_transaction& tx) {
-  const optional_element remittance(out, "RmtInf");
+  const element remittance(out, "RmtInf", left_out_when_empty);
   out.optional_escaped("Ustrd", tx.remittance);
 }
 

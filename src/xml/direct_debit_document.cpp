@@ -96,8 +96,8 @@ void write_amendment(document_writer& out, const document_schema& schema,
 }
 
 void write_mandate(document_writer& out, const document_schema& schema, const dd_transaction& tx) {
-  const optional_element debit(out, "DrctDbtTx");
-  const optional_element mandate(out, "MndtRltdInf");
+  const element debit(out, "DrctDbtTx", left_out_when_empty);
+  const element mandate(out, "MndtRltdInf", left_out_when_empty);
   out.optional_value("MndtId", tx.mandate_id);
   out.optional_value("DtOfSgntr", tx.mandate_date);
   write_amendment(out, schema, tx);
@@ -120,7 +120,7 @@ void write_debtor(document_writer& out, const dd_transaction& tx) {
 
 void write_remittance(document_writer& out, const dd_transaction& tx) {
   if (!tx.remittance) return;
-  const optional_element remittance(out, "RmtInf");
+  const element remittance(out, "RmtInf", left_out_when_empty);
   out.escaped("Ustrd", tx.remittance.c_str());
 }
 

@@ -23,16 +23,10 @@ void document_writer::open(std::string_view name, std::string_view attributes) {
   ++depth_;
 }
 
-void document_writer::close(std::string_view name) {
+void document_writer::close(std::string_view name, std::uint32_t before, std::uint32_t behind) {
   --depth_;
+  if (strict_ && behind > 0 && out_.length == behind) return xml_buffer_cut(out_, before);
   append(failure::of_markup, {indent(), "</", name, ">\n"});
-}
-
-void document_writer::close_optional(std::string_view name, std::uint32_t before,
-                                     std::uint32_t behind) {
-  if (!strict_ || out_.length != behind) return close(name);
-  --depth_;
-  xml_buffer_cut(out_, before);
 }
 
 void document_writer::fixed(std::string_view name, std::string_view content) {

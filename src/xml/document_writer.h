@@ -20,13 +20,10 @@ class document_writer {
   document_writer& operator=(const document_writer&) = delete;
 
   // A start tag with attributes in place, and its end tag; `element` below pairs
-  // them.
+  // them. Of an element that the schema can do without, where the document ended
+  // before the start tag and behind it tells whether it is empty.
   void open(std::string_view name, std::string_view attributes = "");
-  void close(std::string_view name);
-
-  // Ends an element that the schema can do without. Where the document ended before
-  // its start tag and behind it tells whether it is empty.
-  void close_optional(std::string_view name, std::uint32_t before, std::uint32_t behind);
+  void close(std::string_view name, std::uint32_t before = 0, std::uint32_t behind = 0);
   std::uint32_t position() const { return out_.length; }
 
   // An element whose content belongs to the document's form.
@@ -61,6 +58,10 @@ class document_writer {
   failure failure_ = failure::none;
 };
 
+// Marks an element that the schema can do without.
+struct optional_element {};
+inline constexpr optional_element left_out_when_empty;
+
 // An element that holds others: open as long as this object lives.
 class element {
  public:
@@ -68,32 +69,20 @@ class element {
       : out_(out), name_(name) {
     out_.open(name, attributes);
   }
-  ~element() { out_.close(name_); }
+  element(document_writer& out, std::string_view name, optional_element /*mark*/)
+      : out_(out), name_(name), before_(out.position()) {
+    out_.open(name);
+    behind_ = out_.position();
+  }
+  ~element() { out_.close(name_, before_, behind_); }
   element(const element&) = delete;
   element& operator=(const element&) = delete;
 
  private:
   document_writer& out_;
   std::string_view name_;
-};
-
-// The same for an element that the schema can do without.
-class optional_element {
- public:
-  optional_element(document_writer& out, std::string_view name)
-      : out_(out), name_(name), before_(out.position()) {
-    out_.open(name);
-    behind_ = out_.position();
-  }
-  ~optional_element() { out_.close_optional(name_, before_, behind_); }
-  optional_element(const optional_element&) = delete;
-  optional_element& operator=(const optional_element&) = delete;
-
- private:
-  document_writer& out_;
-  std::string_view name_;
-  std::uint32_t before_;
-  std::uint32_t behind_;
+  std::uint32_t before_ = 0;
+  std::uint32_t behind_ = 0;
 };
 
 }  // namespace tivex

@@ -69,7 +69,7 @@ void write_party(document_writer& out, std::string_view element_name, const owne
 
 void write_address(document_writer& out, const transaction& tx) {
   if (!tx.addr_country && !tx.addr_town && !tx.addr_line1 && !tx.addr_line2) return;
-  const optional_element address(out, "PstlAdr");
+  const element address(out, "PstlAdr", left_out_when_empty);
   for (const address_element& part : address_elements()) {
     out.optional_escaped(part.name, tx.*part.value);
   }

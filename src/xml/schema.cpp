@@ -13,16 +13,15 @@ constexpr std::uint32_t iso_demands = DEMAND_OWN_IBAN;
 // German banks check subsets of the ISO schemas, which the German banking industry
 // prescribes.
 constexpr std::uint32_t german_demands = iso_demands | DEMAND_OWN_BIC | DEMAND_NAMES |
-                                         DEMAND_MANDATE | DEMAND_CREDITOR_FORM | DEMAND_SEPA_AMOUNT;
+                                         DEMAND_MANDATE | DEMAND_CREDITOR_FORM |
+                                         DEMAND_SEPA_AMOUNT | DEMAND_SEPA_IDENTIFIER;
 
 constexpr document_schema german_2012 = {
     .credit_transfer = "pain.001.002.03",
     .direct_debit = "pain.008.002.02",
     .has_location = true,
     .bic_element = "BIC",
-    .demands = german_demands | DEMAND_OTHER_BIC | DEMAND_NO_COR1,
-    .identifiers = identifier_set::sepa,
-    .mandate_references = identifier_set::sepa_without_blank,
+    .demands = german_demands | DEMAND_OTHER_BIC | DEMAND_NO_COR1 | DEMAND_UNBROKEN_MANDATE,
 };
 
 constexpr document_schema german_2013 = {
@@ -30,9 +29,7 @@ constexpr document_schema german_2013 = {
     .direct_debit = "pain.008.003.02",
     .has_location = true,
     .bic_element = "BIC",
-    .demands = german_demands,
-    .identifiers = identifier_set::sepa,
-    .mandate_references = identifier_set::sepa_without_blank,
+    .demands = german_demands | DEMAND_UNBROKEN_MANDATE,
 };
 
 constexpr document_schema iso_2009 = {
@@ -49,8 +46,6 @@ constexpr document_schema german_2016 = {
     .bic_element = "BIC",
     .smnda_on_account = true,
     .demands = german_demands,
-    .identifiers = identifier_set::sepa,
-    .mandate_references = identifier_set::sepa,
 };
 
 constexpr document_schema german_2024 = {
@@ -61,8 +56,6 @@ constexpr document_schema german_2024 = {
     .smnda_on_account = true,
     .date_or_time = true,
     .demands = german_demands | DEMAND_TOWN_AND_COUNTRY | DEMAND_NO_COR1,
-    .identifiers = identifier_set::sepa,
-    .mandate_references = identifier_set::sepa,
 };
 
 // In the order of the rulebooks' numbers.

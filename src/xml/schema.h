@@ -7,22 +7,20 @@
 
 namespace tivex {
 
-// The characters of identifiers: any text; letters, digits, blank and
-// + ? / | - : ( ) . , '; or these without the blank.
-enum class identifier_set { any, sepa, sepa_without_blank };
-
 // What a schema may ask of a message's values.
 enum schema_demand : std::uint32_t {
   DEMAND_NOTHING = 0,
   DEMAND_OWN_IBAN = 1,
   DEMAND_OWN_BIC = 2,
-  DEMAND_NAMES = 4,              // of both parties
-  DEMAND_OTHER_BIC = 8,          // of the other side's bank
-  DEMAND_TOWN_AND_COUNTRY = 16,  // both, in a structured address
-  DEMAND_MANDATE = 32,           // its reference and the date of its signature
-  DEMAND_CREDITOR_FORM = 64,     // the EPC's form of creditor identifiers
-  DEMAND_SEPA_AMOUNT = 128,      // at most 999999999.99
-  DEMAND_NO_COR1 = 256,          // as the local instrument
+  DEMAND_NAMES = 4,                // of both parties
+  DEMAND_OTHER_BIC = 8,            // of the other side's bank
+  DEMAND_TOWN_AND_COUNTRY = 16,    // both, in a structured address
+  DEMAND_MANDATE = 32,             // its reference and the date of its signature
+  DEMAND_CREDITOR_FORM = 64,       // the EPC's form of creditor identifiers
+  DEMAND_SEPA_AMOUNT = 128,        // at most 999999999.99
+  DEMAND_NO_COR1 = 256,            // as the local instrument
+  DEMAND_SEPA_IDENTIFIER = 512,    // letters, digits, blank and + ? / | - : ( ) . , '
+  DEMAND_UNBROKEN_MANDATE = 1024,  // no blank in a mandate reference
 };
 
 // Versions are named as their namespaces and files are.
@@ -35,8 +33,6 @@ struct document_schema {
   bool smnda_on_account = false;
   bool date_or_time = false;  // the execution date says which of the two it is
   std::uint32_t demands;      // of schema_demand
-  identifier_set identifiers = identifier_set::any;
-  identifier_set mandate_references = identifier_set::any;
 
   bool asks_for(std::uint32_t demand) const { return (demands & demand) != 0; }
 };

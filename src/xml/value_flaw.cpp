@@ -13,8 +13,7 @@ namespace {
 
 constexpr std::int64_t highest_cents = 99'999'999'999;
 
-bool is_sepa_character(char c, identifier_set set) {
-  if (c == ' ') return set == identifier_set::sepa;
+bool is_sepa_character(char c) {
   return is_digit(c) || is_upper(to_upper(c)) || std::strchr("+?/|-:().,'", c) != nullptr;
 }
 
@@ -22,11 +21,13 @@ value_flaw ill_formed_at(const char* place) {
   return place != nullptr ? value_flaw{flaw::ill_formed, *place} : value_flaw{};
 }
 
-value_flaw text_flaw(const char* value, const document_schema& schema, identifier_set set) {
+value_flaw identifier_text_flaw(const char* value, const document_schema& schema,
+                                bool blank_admitted) {
   const value_flaw ill_formed = plain_text_flaw(value, schema);
-  if (ill_formed || set == identifier_set::any) return ill_formed;
+  if (ill_formed || !schema.asks_for(DEMAND_SEPA_IDENTIFIER)) return ill_formed;
   for (; *value != '\0'; ++value) {
-    if (!is_sepa_character(*value, set)) return {flaw::character, *value};
+    const bool admitted = *value == ' ' ? blank_admitted : is_sepa_character(*value);
+    if (!admitted) return {flaw::character, *value};
   }
   return {};
 }
@@ -54,11 +55,11 @@ value_flaw plain_text_flaw(const char* value, const document_schema& /*schema*/)
 }
 
 value_flaw identifier_flaw(const char* value, const document_schema& schema) {
-  return text_flaw(value, schema, schema.identifiers);
+  return identifier_text_flaw(value, schema, true);
 }
 
 value_flaw mandate_reference_flaw(const char* value, const document_schema& schema) {
-  return text_flaw(value, schema, schema.mandate_references);
+  return identifier_text_flaw(value, schema, !schema.asks_for(DEMAND_UNBROKEN_MANDATE));
 }
 
 // Country, check digits, creditor business code and national identifier.
@@ -68,7 +69,7 @@ value_flaw creditor_identifier_flaw(const char* value, const document_schema& sc
   const bool begins_well = is_upper(to_upper(value[0])) && is_upper(to_upper(value[1])) &&
                            is_digit(value[2]) && is_digit(value[3]);
   if (!begins_well || std::strlen(value) <= national_identifier) return {flaw::no_creditor_form};
-  return text_flaw(value, schema, identifier_set::sepa_without_blank);
+  return identifier_text_flaw(value, schema, false);
 }
 
 value_flaw date_flaw(const char* value, const document_schema& /*schema*/) {

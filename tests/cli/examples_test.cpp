@@ -65,9 +65,14 @@ std::string values_of_document(const std::string& xml) {
   return text;
 }
 
+// Under the other rulebooks addresses are lines.
+std::string csv_for(const std::string& rulebook, const std::string& file) {
+  return file + (rulebook == "DE-3.7" ? ".csv" : "_address_lines.csv");
+}
+
 void expect_agreement(const std::string& command, const std::string& file,
                       const std::string& rulebook, const std::string& usual_date) {
-  const std::string csv = file + (rulebook == "DE-3.7" ? ".csv" : "_address_lines.csv");
+  const std::string csv = csv_for(rulebook, file);
   const program_result result = run(command + " --rulebook " + rulebook + " $examples/" + csv +
                                     " -o x.xml && xmllint --noout x.xml && cat x.xml");
   EXPECT_EQ(result.status, 0) << result.errors;
@@ -90,7 +95,7 @@ constexpr const char* validate = R"sh(
 void expect_validity(const std::string& command, const std::string& file,
                      const std::string& rulebook) {
   const bool german = rulebook.starts_with("DE");
-  const std::string csv = file + (rulebook == "DE-3.7" ? ".csv" : "_address_lines.csv");
+  const std::string csv = csv_for(rulebook, file);
   const program_result result = run(command + " --rulebook " + rulebook + " $examples/" + csv +
                                     " -o x.xml && german=" + (german ? "1" : "0") + validate);
   EXPECT_EQ(result.status, 0) << result.output << result.errors;

@@ -35,28 +35,32 @@ int add(const message_ptr& msg, const pairs& more) {
   return add_alone(msg, list);
 }
 
+std::vector<std::pair<std::string, cell>> read_properties(const std::string& list) {
+  std::vector<std::pair<std::string, cell>> properties;
+  for (const std::string& property : split(list, " ; ")) {
+    const std::size_t equals = property.find('=');
+    if (equals == property.npos) continue;
+    properties.emplace_back(property.substr(0, equals), cell(property.substr(equals + 1)));
+  }
+  return properties;
+}
+
 int call(const message_ptr& msg, const std::string& function, const char* value) {
   static const std::map<std::string, int (*)(tivex_t*, const char*)> setters = {
       {"setIBAN", tivex_setIBAN}, {"setBIC", tivex_setBIC},
       {"setName", tivex_setName}, {"setCreditorIdentifier", tivex_setCreditorIdentifier},
       {"setDate", tivex_setDate}, {"setMessageId", tivex_setMessageId}};
+  static const std::map<std::string, int (*)(tivex_t*, unsigned char)> modes = {
+      {"setBatchBooking", tivex_setBatchBooking}, {"setStrict", tivex_setStrict}};
   if (function == "rulebook") return tivex_init(TIVEX_OPTION_RULEBOOK, value);
   if (function == "setDDType") return tivex_setDDType(msg.get(), std::atoi(value));
   if (function == "toXML") return document_of(msg).empty() ? 0 : 1;
-  if (function == "setBatchBooking") {
-    return tivex_setBatchBooking(msg.get(), static_cast<unsigned char>(std::atoi(value)));
-  }
-  if (function == "setStrict") {
-    return tivex_setStrict(msg.get(), static_cast<unsigned char>(std::atoi(value)));
+  if (const auto mode = modes.find(function); mode != modes.end()) {
+    return mode->second(msg.get(), static_cast<unsigned char>(std::atoi(value)));
   }
   if (function.rfind("add", 0) != 0) return setters.at(function)(msg.get(), value);
 
-  std::vector<std::pair<std::string, cell>> properties;
-  for (const std::string& property : split(value, " ; ")) {
-    const std::size_t equals = property.find('=');
-    if (equals == property.npos) continue;
-    properties.emplace_back(property.substr(0, equals), cell(property.substr(equals + 1)));
-  }
+  const std::vector<std::pair<std::string, cell>> properties = read_properties(value);
   pairs list;
   for (const auto& [key, text] : properties) list.push_back({key.c_str(), text.c_str()});
   return function == "add" ? add_alone(msg, list) : add(msg, list);

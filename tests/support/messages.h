@@ -3,10 +3,12 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/message.h"
 #include "core/rulebook.h"
+#include "support/table.h"
 #include "tivex.h"
 
 struct message_free {
@@ -31,9 +33,12 @@ int add(const message_ptr& msg, const pairs& more = {});
 // Adds these properties and no others.
 int add_alone(const message_ptr& msg, pairs list);
 
+// The properties of a list that is written key=value, separated by blank,
+// semicolon, blank.
+std::vector<std::pair<std::string, cell>> read_properties(const std::string& list);
+
 // Calls a function as the test data name it: "rulebook", "setIBAN" and so on,
-// "add" (alone), "add+" (see above) or "toXML". A list of properties is written
-// key=value, separated by blank, semicolon, blank.
+// "add" (alone), "add+" (see above), both with a list as above, or "toXML".
 int call(const message_ptr& msg, const std::string& function, const char* value);
 
 std::string error_of(const message_ptr& msg);

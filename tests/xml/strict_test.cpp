@@ -30,11 +30,7 @@ void add_complete(const message_ptr& msg, const std::string& replaced) {
   if (msg->type == TIVEX_DIRECT_DEBIT) {
     values.insert({{"seq", "RCUR"}, {"mref", "M"}, {"mdate", "2025-06-30"}});
   }
-  for (const std::string& entry : split(replaced, " ; ")) {
-    const std::size_t equals = entry.find('=');
-    if (equals == entry.npos) continue;
-    values[entry.substr(0, equals)] = cell(entry.substr(equals + 1)).str();
-  }
+  for (const auto& [key, value] : read_properties(replaced)) values[key] = value.str();
   std::erase_if(values, [](const auto& entry) { return entry.second == "-"; });
   pairs list;
   for (const auto& [key, value] : values) list.push_back({key.c_str(), value.c_str()});
