@@ -18,8 +18,8 @@
  *   are small integers; the reason of a failure is read with tivex_getError.
  * - The library creates no threads. A message belongs to one thread at a time;
  *   different messages may be used by different threads, and the checks and
- *   lookups may be called by any number of threads at once. tivex_init and
- *   tivex_cleanup are called while no other thread is inside the library.
+ *   lookups may be called by any number of threads at once; none waits for
+ *   another. tivex_init is called while no other thread is inside the library.
  * - Account data is overwritten with zeros before its memory is released.
  */
 #ifndef TIVEX_H
@@ -85,9 +85,8 @@ extern TIVEX_API const char *tivex_edition_str;
 TIVEX_API int tivex_init(int option, const char *value);
 
 /*
- * Releases what validation compiled on first use. Call it when the library is
- * no longer needed; it may be used again afterwards all the same. Messages and
- * the selected rulebook are not touched.
+ * Meant for the end of the library's use. There is nothing to release any more, so
+ * it does nothing and may be called at any time, by any thread.
  */
 TIVEX_API void tivex_cleanup(void);
 
@@ -164,8 +163,9 @@ TIVEX_API const char *tivex_getError(const tivex_t *msg);
  *   "Wrong IBAN length", "Invalid IBAN format", "Invalid IBAN checksum",
  *   "Invalid character in IBAN", of a German IBAN also
  *   "Invalid bank ID (BLZ) in IBAN" (not in the directory) and
- *   "Invalid account number in IBAN" (by the bank's check-digit method),
- *   "Error while initializing regular expressions" (memory exhausted).
+ *   "Invalid account number in IBAN" (by the bank's check-digit method).
+ * "Error while initializing regular expressions", a reason of earlier builds, can no
+ * longer occur: validation needs no memory.
  */
 TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
 

@@ -14,7 +14,4 @@ enum format_kind : unsigned {
 // characters of the text kinds are not looked at.
 bool format_check(unsigned kind, const char* text);
 
-// Releases what the first check compiled; the next one compiles again.
-void bic_release_pattern();
-
 }  // namespace tivex

@@ -14,11 +14,4 @@ bool iban_validate(const char* iban, const char** reason);
 // IBAN_BAD_CHARACTER. The text has at least four characters.
 int iban_remainder(const char* iban);
 
-// Compiles the national patterns; false when memory is exhausted. The first
-// validation does so by itself.
-bool iban_compile_patterns();
-
-// Releases the compiled patterns; the next validation compiles them again.
-void iban_release_patterns();
-
 }  // namespace tivex

@@ -1,7 +1,6 @@
 #include "support/runtime_control.h"
 
 #include <malloc.h>
-#include <regex.h>
 #include <sys/types.h>
 
 #include <atomic>
@@ -88,7 +87,6 @@ void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 void* __real_realloc(void* block, std::size_t size);
 void __real_free(void* block);
-int __real_regcomp(regex_t* compiled, const char* pattern, int flags);
 std::time_t __real_time(std::time_t* moment);
 pid_t __real_getpid(void);
 
@@ -105,10 +103,6 @@ void* __wrap_realloc(void* block, std::size_t size) {
 void __wrap_free(void* block) {
   look_at(block);
   __real_free(block);
-}
-
-int __wrap_regcomp(regex_t* compiled, const char* pattern, int flags) {
-  return allocation_fails() ? REG_ESPACE : __real_regcomp(compiled, pattern, flags);
 }
 
 std::time_t __wrap_time(std::time_t* moment) {

@@ -8,7 +8,7 @@
 namespace runtime_control {
 
 // The n-th allocation from now on (counted from 1) fails, or with `all_later` that
-// and every later one. The compilation of a pattern counts as an allocation.
+// and every later one.
 struct failing_allocation {
   explicit failing_allocation(std::size_t n, bool all_later = false);
   ~failing_allocation();

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/runtime_control.h"
 #include "support/table.h"
 #include "tivex.h"
 #include "validation/format_check.h"
@@ -84,16 +83,4 @@ TEST(Format, TextKindsLimitTheLength) {
     EXPECT_FALSE(tivex::format_check(kind, ""));
     EXPECT_FALSE(tivex::format_check(kind, nullptr));
   }
-}
-
-TEST(Patterns, AreCompiledAgainAfterAFailure) {
-  tivex_cleanup();
-  // One allocation for the set and one for each pattern.
-  for (std::size_t n = 1; n <= tivex::iban_country_table.size() + 1; ++n) {
-    const runtime_control::failing_allocation failing(n, true);
-    EXPECT_EQ(fault_of("NO9386011117947"), "Error while initializing regular expressions") << n;
-    EXPECT_EQ(tivex::format_check(tivex::FORMAT_TEXT70, "x"), false) << "every kind";
-  }
-  EXPECT_EQ(fault_of("NO9386011117947"), "");
-  EXPECT_TRUE(tivex::format_check(tivex::FORMAT_TEXT70, "x"));
 }
