@@ -181,8 +181,9 @@ TIVEX_API int tivex_setBIC(tivex_t *msg, const char *bic);
 
 /*
  * Sets the name of the account's holder: 1 to 70 bytes of the rulebook's
- * widest character set (letters, digits, blank, ' : ? , - ( ) + / . and,
- * except under "DE-2.6", & * $ % and the German letters with umlaut and sharp s).
+ * widest character set: letters, digits, blank, ' : ? , - ( ) + / . and,
+ * except under "DE-2.6", & * $ % and the German letters with umlaut and sharp s;
+ * under "AT-6" also the euro sign and ! " # ; < = > @ [ ] ^ _ { | } ~.
  *
  * Errors: "tivex_setAccount: Name too short", "tivex_setAccount: Name too long",
  * "tivex_setName: invalid character '%c' in name" with the first byte of the
@@ -204,8 +205,12 @@ TIVEX_API int tivex_setCreditorIdentifier(tivex_t *msg, const char *id);
 
 /*
  * Sets the date, "yyyy-mm-dd", on which transactions that bring none of their
- * own are executed or collected. Only the form is checked, not the calendar.
- * Without it tivex_toXML takes today's local date.
+ * own are executed or collected. Of its 10 bytes only the start is checked: a number
+ * of up to four digits and two of up to two, with hyphens between them, each with
+ * white space or a sign in front where there is room. Neither the calendar nor what
+ * stands behind the third number is looked at, and the text is written without
+ * escaping: "24-1-1xxxx" and "1-1-1<b/>x" are accepted (tivex_setStrict refuses such
+ * documents). Without a date tivex_toXML takes today's local date.
  *
  * Errors: "Invalid date" (null or not 10 bytes), "Invalid date format",
  * "strdup() failed".
@@ -308,7 +313,9 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  * them, or address lines and country. What that form has no place for is left out.
  *
  * Returns 1, or 0 with the reason in the message's error text; then the
- * message's transactions are as before. For a null message returns 0.
+ * message's transactions are as before. For a null message returns 0. When memory
+ * does not suffice for the copy of a value other than the IBAN, the transaction may be
+ * added without that value; the strict mode then refuses the document.
  *
  * Errors ("%c" the first byte of the first character refused, "%s" the key or
  * value as given):
@@ -399,7 +406,8 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  *   "has character '%c' (not allowed by %s)",
  *   "has byte 0x%02X (not allowed by %s)" (by the schema's version, or by XML, in
  *   which a value that is not escaped must hold no markup either),
- *   "has ']]>' (not allowed by XML)",
+ *   "has ']]>' (not allowed by XML)", "lost (out of memory)" (see tivex_add; first of
+ *   its transaction's),
  *   "above 999999999.99 (not allowed by %s)",
  *   "of more than 18 digits (not allowed by %s)", "is COR1 (not allowed by %s)",
  *   "is not two letters, two digits, business code and national identifier
@@ -537,7 +545,9 @@ TIVEX_API int tivex_account_check2(const char *account, const char *bank_code, i
 /* --- German IBANs from account number and bank code ------------------------ */
 
 /* What tivex_iban_convert reports besides its result. */
-#define TIVEX_CONVERSION_AS_GIVEN 0           /* made from what was given */
+/* The IBAN was made from what was given. Without an IBAN, the status of arguments that
+   are refused, of another country and of banks that state no IBAN without saying why. */
+#define TIVEX_CONVERSION_AS_GIVEN 0
 #define TIVEX_CONVERSION_ACCOUNT_REPLACED 1   /* made with another account number */
 #define TIVEX_CONVERSION_BANK_UNKNOWN 10      /* bank code or successor not in the directory */
 #define TIVEX_CONVERSION_ACCOUNT_INVALID 11   /* by the bank's check-digit method */

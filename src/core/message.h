@@ -13,6 +13,12 @@ namespace tivex {
 
 struct transaction;
 
+// A value of a transaction that was added although memory did not suffice for its copy.
+struct lost_value {
+  std::uint32_t transaction = 0;  // counted from 1; 0 when none was lost
+  const char* key = nullptr;
+};
+
 struct message {
   std::int32_t type = 0;
   const char* error = nullptr;  // a constant text or error_text; never cleared
@@ -29,12 +35,20 @@ struct message {
   std::uint8_t batch_booking = 1;
   transaction* first = nullptr;  // records of the kind that `type` names, linked by `next`
   transaction* last = nullptr;
-  std::uint8_t strict = 0;  // 1: only documents that their schema accepts are written
+  std::uint8_t strict = 0;   // 1: only documents that their schema accepts are written
+  bool copy_failed = false;  // of a value, in the adding that runs
+  lost_value lost;           // the first one
 
   // Both note the reason of a failure and give back the result of one.
   bool fail(const char* reason);
   template <class... values>
   bool fail_with(const char* format, values... shown);
+
+  // Stores a copy of a transaction's value. One that cannot be allocated leaves the
+  // field unset, which is no fault of the value and refuses nothing by itself.
+  void keep_copy(owned_text& field, const char* value) {
+    if (!field.assign(value)) copy_failed = true;
+  }
 };
 
 template <class... values>

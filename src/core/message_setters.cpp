@@ -25,7 +25,7 @@ bool store(message& msg, owned_text& field, const char* value,
 bool set_iban(message& msg, const char* iban) {
   const char* reason = nullptr;
   if (!iban_validate(iban, &reason)) {
-    return msg.fail_with("%s (%s)", reason, iban != nullptr ? iban : "(null)");
+    return msg.fail_with("%s (%.255s)", reason, iban != nullptr ? iban : "(null)");
   }
   return store(msg, msg.iban, iban);
 }

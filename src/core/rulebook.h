@@ -22,31 +22,31 @@ enum rulebook_number : std::int32_t {
   RULEBOOK_DE_3_7 = 9,
 };
 
+// What may be set and added; what is written is told by the document's schema.
 struct rulebook_rules {
   const char* name;
   bool bic_required;                // of every transaction
   bool plain_text_only;             // no umlauts and no & * $ % anywhere
   bool wide_punctuation;            // the euro sign and 16 more characters everywhere
   bool cor1_allowed;                // as the local instrument of direct debits
-  bool cor1_withdrawn;              // also where it was set under another rulebook
   bool blank_in_mandate_reference;  // admitted
   bool address_line_outside_eea;    // needed for debtors whose bank is there
-  bool structured_address;          // in place of address lines
+  bool structured_address;          // keys of its parts in place of address lines
 };
 
 // In the order of the numbers.
 inline constexpr std::array<rulebook_rules, 10> rulebook_table = {{
-    // name    BIC    plain  wide   COR1   gone   blank  EEA    structured
-    {"DE-2.6", true, true, false, false, false, false, false, false},
-    {"DE-2.7", false, false, false, true, false, false, false, false},
-    {"AT-6", false, false, true, true, false, false, false, false},
-    {"NL-6", false, false, false, true, false, false, false, false},
-    {"DE-2.8", false, false, false, true, false, false, false, false},
-    {"DE-2.9", false, false, false, true, false, false, false, false},
-    {"DE-3.0", false, false, false, false, true, true, false, false},
-    {"DE-3.1", false, false, false, false, true, true, true, false},
-    {"DE-3.5", false, false, false, false, true, true, true, false},
-    {"DE-3.7", false, false, false, false, true, true, false, true},
+    // name    BIC    plain  wide   COR1   blank  EEA    structured
+    {"DE-2.6", true, true, false, false, false, false, false},
+    {"DE-2.7", false, false, false, true, false, false, false},
+    {"AT-6", false, false, true, true, false, false, false},
+    {"NL-6", false, false, false, true, false, false, false},
+    {"DE-2.8", false, false, false, true, false, false, false},
+    {"DE-2.9", false, false, false, true, false, false, false},
+    {"DE-3.0", false, false, false, false, true, false, false},
+    {"DE-3.1", false, false, false, false, true, true, false},
+    {"DE-3.5", false, false, false, false, true, true, false},
+    {"DE-3.7", false, false, false, false, true, false, true},
 }};
 
 // Process-wide; a host selects before it starts threads.

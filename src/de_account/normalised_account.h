@@ -37,9 +37,10 @@ class normalised_account {
     return std::memcmp(text_ + position - 1, characters.data(), characters.size()) == 0;
   }
 
-  std::uint64_t value() const {
+  // The number that the characters from a position on spell.
+  std::uint64_t value(int first = 1) const {
     std::uint64_t number = 0;
-    for (int position = 1; position <= 10; ++position) {
+    for (int position = first; position <= 10; ++position) {
       number = number * 10 + static_cast<std::uint64_t>(d(position));
     }
     return number;

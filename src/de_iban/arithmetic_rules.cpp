@@ -73,7 +73,8 @@ rule_result rule_36(char* iban, rule_input& input) {
   return standard_after<bank_code_becomes<"21050000">>(iban, input);
 }
 
-// Accounts of eight digits "nnnnnpzz" with p not 0 and of ten with 44 in the middle.
+// Accounts of eight digits, of which the fourth (position 6) is 0 outside two ranges and
+// the fifth is not 0, and accounts of ten digits with 44 at positions 4 and 5.
 rule_result rule_42(char* iban, rule_input& input) {
   using check_digits::any_of;
   constexpr account_condition& is_exception =

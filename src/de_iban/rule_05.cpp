@@ -8,7 +8,7 @@ namespace {
 
 // Numbers of former branches for which there is no IBAN.
 bool is_closed(const rule_input& input) {
-  const std::uint64_t number = input.digits().value() % 1'000'000'000;
+  const std::uint64_t number = input.digits().value(2);
   if (number < 998'000'000 || number > 999'499'999) return false;
   for (const bank_code_row& row : bank_codes_05) {
     if (input.has_bank_code(row.bank_code)) return true;

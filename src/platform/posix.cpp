@@ -8,7 +8,9 @@ namespace tivex::platform {
 
 std::time_t now() { return std::time(nullptr); }
 
+// A host may change TZ while it runs: localtime looks at it, localtime_r need not.
 calendar_time local_calendar(std::time_t moment) {
+  tzset();
   std::tm parts{};
   return localtime_r(&moment, &parts) ? from_broken_down(parts) : calendar_time{};
 }

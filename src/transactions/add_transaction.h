@@ -47,6 +47,23 @@ bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
   return rules.accept_unknown(msg, entry.key);
 }
 
+// The key of a value in the list whose copy the record lacks; null when it lacks none.
+template <class record>
+const char* find_lost_value(const record& added, const tivex_keyvalue_t* list,
+                            const list_rules<record>& rules) {
+  for (; list->key != nullptr; ++list) {
+    if (current_rules().structured_address) {
+      const field_row* const row = find_field(structured_address_fields, list->key);
+      if (row != nullptr && !(added.*row->destination)) return row->key;
+    }
+    for (const auto keys : {rules.shared_keys, rules.own_keys}) {
+      const key_rule<record>* const row = find_key(keys, list->key);
+      if (row != nullptr && row->field != nullptr && !(added.*row->field)) return row->key;
+    }
+  }
+  return nullptr;
+}
+
 // Builds a record from a list and links it to the message. At the first fault
 // the message's transactions stay as they were, its error text tells the reason,
 // and the result is false.
@@ -55,10 +72,16 @@ bool add_transaction(message& msg, const tivex_keyvalue_t* list, const list_rule
   if (list == nullptr) return msg.fail("No key-value list submitted");
   wiped_ptr<record> added = make_wiped<record>();
   if (!added) return msg.fail("Out of memory");
-  for (; list->key != nullptr; ++list) {
-    if (!accept_entry(msg, *added, *list, rules)) return false;
+  msg.copy_failed = false;
+  for (const tivex_keyvalue_t* entry = list; entry->key != nullptr; ++entry) {
+    if (!accept_entry(msg, *added, *entry, rules)) return false;
   }
   if (!rules.complete(msg, *added)) return false;
+  if (msg.copy_failed && msg.lost.transaction == 0) {
+    // A later value of the same key may have been copied.
+    const char* const key = find_lost_value(*added, list, rules);
+    if (key != nullptr) msg.lost = {msg.tx_count + 1, key};
+  }
   link_transaction(msg, std::move(added));
   return true;
 }

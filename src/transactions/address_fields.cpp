@@ -28,18 +28,23 @@ constexpr std::array<field_row, 13> address_rows = {{
 
 constinit const std::span<const field_row> structured_address_fields = address_rows;
 
+const field_row* find_field(std::span<const field_row> table, const char* key) {
+  for (const field_row& row : table) {
+    if (equal_ignoring_case(key, row.key)) return &row;
+  }
+  return nullptr;
+}
+
 field_outcome field_table_set(message& msg, transaction& target, const tivex_keyvalue_t& entry,
                               std::span<const field_row> table) {
-  for (const field_row& row : table) {
-    if (!equal_ignoring_case(entry.key, row.key)) continue;
-    if (!format_check(row.kind, entry.value)) {
-      msg.fail_with("Invalid format for '%s'", entry.key);
-      return field_outcome::refused;
-    }
-    (target.*row.destination).assign(entry.value);
-    return field_outcome::stored;
+  const field_row* const row = find_field(table, entry.key);
+  if (row == nullptr) return field_outcome::unknown_key;
+  if (!format_check(row->kind, entry.value)) {
+    msg.fail_with("Invalid format for '%.255s'", entry.key);
+    return field_outcome::refused;
   }
-  return field_outcome::unknown_key;
+  msg.keep_copy(target.*row->destination, entry.value);
+  return field_outcome::stored;
 }
 
 }  // namespace tivex

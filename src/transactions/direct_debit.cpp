@@ -31,7 +31,8 @@ bool accept_sequence(message& msg, dd_transaction& target, const char* value) {
 
 bool accept_smnda(message& msg, dd_transaction& target, const char* value) {
   if (value == nullptr || std::string_view(value) != "1") {
-    return msg.fail_with("Invalid value '%s' for SMNDA flag", value != nullptr ? value : "(null)");
+    return msg.fail_with("Invalid value '%.255s' for SMNDA flag",
+                         value != nullptr ? value : "(null)");
   }
   target.smnda = 1;
   return true;
@@ -53,8 +54,8 @@ constexpr auto shared_keys =
     shared_key_rules<dd_transaction>("Invalid character '%c' in debtor name");
 
 constexpr std::array<key_rule<dd_transaction>, 7> own_keys = {{
-    {"addrDept", nullptr, nullptr, {}, refuse_structured_address},
-    {"seq", nullptr, nullptr, {}, accept_sequence},
+    {.key = "addrDept", .accept_value = refuse_structured_address},
+    {.key = "seq", .accept_value = accept_sequence},
     {"mref",
      &dd_transaction::mandate_id,
      accept_mandate_reference,
@@ -70,11 +71,11 @@ constexpr std::array<key_rule<dd_transaction>, 7> own_keys = {{
      {1, 35, "Invalid old mandate reference (must be 1-35 characters)", CHARSET_REFERENCE,
       "Invalid character '%c' in old mandate reference"}},
     {"old_iban", &dd_transaction::old_iban, accept_iban},
-    {"smnda", nullptr, nullptr, {}, accept_smnda},
+    {.key = "smnda", .accept_value = accept_smnda},
 }};
 
 bool refuse_unknown(message& msg, const char* key) {
-  return msg.fail_with("Invalid transaction property '%s'", key);
+  return msg.fail_with("Invalid transaction property '%.255s'", key);
 }
 
 // A debtor whose bank lies outside the European Economic Area must be told by

@@ -13,8 +13,8 @@ namespace tivex {
 
 namespace {
 
-bool store(owned_text& field, const char* value) {
-  field.assign(value);
+bool store(message& msg, owned_text& field, const char* value) {
+  msg.keep_copy(field, value);
   return true;
 }
 
@@ -34,27 +34,27 @@ bool check_characters(message& msg, const text_rule& rule, const char* value) {
 
 bool accept_text(message& msg, const text_rule& rule, const char* value, owned_text& field) {
   if (!has_length(rule, value)) return msg.fail(rule.length_error);
-  return check_characters(msg, rule, value) && store(field, value);
+  return check_characters(msg, rule, value) && store(msg, field, value);
 }
 
 bool accept_iban(message& msg, const text_rule& /*rule*/, const char* value, owned_text& field) {
   const char* reason = nullptr;
   if (!iban_validate(value, &reason)) return msg.fail(reason);
-  return store(field, value);
+  return store(msg, field, value);
 }
 
 bool accept_bic(message& msg, const text_rule& /*rule*/, const char* value, owned_text& field) {
   bic_text upper;
   if (!upper.set(value)) return msg.fail("Invalid BIC");
   if (!format_check(FORMAT_BIC, upper.c_str())) return msg.fail("Invalid BIC format");
-  return store(field, upper.c_str());
+  return store(msg, field, upper.c_str());
 }
 
 bool accept_country(message& msg, const text_rule& rule, const char* value, owned_text& field) {
   if (!has_length(rule, value) || !is_upper(value[0]) || !is_upper(value[1])) {
     return msg.fail(rule.length_error);
   }
-  return store(field, value);
+  return store(msg, field, value);
 }
 
 bool accept_address_line(message& msg, const text_rule& rule, const char* value,
@@ -63,7 +63,7 @@ bool accept_address_line(message& msg, const text_rule& rule, const char* value,
     return msg.fail("selected SEPA rulebook requires structured address data");
   }
   if (!format_check(FORMAT_TEXT70, value)) return msg.fail(rule.length_error);
-  return check_characters(msg, rule, value) && store(field, value);
+  return check_characters(msg, rule, value) && store(msg, field, value);
 }
 
 }  // namespace tivex

@@ -58,7 +58,7 @@ constexpr std::array<key_rule<record>, 10> shared_key_rules(const char* name_err
        accept_text,
        {0, 140, "Invalid unstructured remittance information (must be 0-140 characters)",
         CHARSET_TEXT, "Invalid character '%c' in unstructured remittance information"}},
-      {"amount", nullptr, nullptr, {}, accept_amount<record>},
+      {.key = "amount", .accept_value = accept_amount<record>},
       {"date", &record::date, accept_text, {10, 10, "Invalid execution date (format: yyyy-mm-dd)"}},
       {"id",
        &record::end_to_end_id,

@@ -1,5 +1,6 @@
 #include "xml/credit_transfer_document.h"
 
+#include "core/rulebook.h"
 #include "platform/platform.h"
 #include "transactions/credit_transfer.h"
 #include "xml/document_frame.h"
@@ -20,24 +21,24 @@ void write_execution_date(document_writer& out, const message& msg, const docume
   out.value("Dt", date);
 }
 
-void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
+void write_payment_header(document_writer& out, const message& msg, const document_form& form,
                           const payment_block<ct_transaction>& block, int number) {
   write_payment_start(out, msg, "TRF", number, block.totals);
   {
     const element type(out, "PmtTpInf");
     write_service_level(out);
   }
-  write_execution_date(out, msg, schema, block.date);
+  write_execution_date(out, msg, form.schema, block.date);
   write_party(out, "Dbtr", msg.name);
   write_account(out, "DbtrAcct", msg.iban);
-  write_agent(out, "DbtrAgt", schema, msg.bic);
+  write_agent(out, "DbtrAgt", form.schema, msg.bic);
   out.fixed("ChrgBr", "SLEV");
 }
 
-void write_creditor(document_writer& out, const ct_transaction& tx) {
+void write_creditor(document_writer& out, const document_schema& schema, const ct_transaction& tx) {
   const element creditor(out, "Cdtr", left_out_when_empty);
   out.optional_escaped("Nm", tx.name);
-  write_address(out, tx);
+  write_address(out, schema, tx);
 }
 
 void write_purpose(document_writer& out, const ct_transaction& tx) {
@@ -60,7 +61,7 @@ void write_transaction(document_writer& out, const document_schema& schema,
     write_amount(out, tx.amount);
   }
   if (tx.bic) write_agent(out, "CdtrAgt", schema, tx.bic);
-  write_creditor(out, tx);
+  write_creditor(out, schema, tx);
   write_account(out, "CdtrAcct", tx.iban);
   write_purpose(out, tx);
   write_remittance(out, tx);
@@ -70,9 +71,9 @@ void write_transaction(document_writer& out, const document_schema& schema,
 
 bool cti_toXML(message& msg, xml_buffer_t& out) {
   const std::time_t moment = platform::now();
+  const document_schema* const schema = schema_of(rulebook);
   if (!ensure_message_id(msg, moment)) return msg.fail("cti_toXML: strdup() failed");
-  const document_schema* const schema = selected_schema(msg);
-  if (schema == nullptr) return false;
+  if (schema == nullptr) return fail_without_schema(msg);
 
   payment_blocks<ct_transaction> blocks;
   if (!blocks.group(msg, [](const ct_transaction& /*tx*/) { return 0; })) return false;

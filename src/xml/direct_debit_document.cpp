@@ -22,11 +22,13 @@ std::int32_t slot_of(const dd_transaction& tx) { return tx.sequence_type - SEQUE
 // By the numbers of tivex_setDDType.
 constexpr std::array<const char*, 3> local_instruments = {"CORE", "COR1", "B2B"};
 
-// Null when the message's local instrument is none, or none any more.
-const char* local_instrument_of(const message& msg) {
+// Null when the message's local instrument is none, or none any more. There may be no
+// schema: that is told after this.
+const char* local_instrument_of(const message& msg, const document_schema* schema) {
   const std::int32_t number = msg.local_instrument;
   if (number < 0 || number >= static_cast<std::int32_t>(local_instruments.size())) return nullptr;
-  if (number == TIVEX_DD_COR1 && current_rules().cor1_withdrawn) return nullptr;
+  const bool withdrawn = schema != nullptr && schema->cor1 == cor1_form::withdrawn;
+  if (number == TIVEX_DD_COR1 && withdrawn) return nullptr;
   return local_instruments[static_cast<std::size_t>(number)];
 }
 
@@ -59,15 +61,15 @@ void write_creditor_scheme(document_writer& out, const owned_text& creditor_id) 
   out.fixed("Prtry", "SEPA");
 }
 
-void write_payment_header(document_writer& out, const message& msg, const document_schema& schema,
+void write_payment_header(document_writer& out, const message& msg, const document_form& form,
                           const payment_block<dd_transaction>& block, int number) {
   write_payment_start(out, msg, "DD", number, block.totals);
-  write_payment_type(out, local_instrument_of(msg),
+  write_payment_type(out, form.local_instrument,
                      sequence_texts[static_cast<std::size_t>(block.slot)]);
   out.value("ReqdColltnDt", block.date);
   write_party(out, "Cdtr", msg.name);
   write_account(out, "CdtrAcct", msg.iban);
-  write_agent(out, "CdtrAgt", schema, msg.bic);
+  write_agent(out, "CdtrAgt", form.schema, msg.bic);
   out.fixed("ChrgBr", "SLEV");
   write_creditor_scheme(out, msg.creditor_id);
 }
@@ -112,10 +114,10 @@ void write_debtor_agent(document_writer& out, const document_schema& schema,
   out.fixed("Id", "NOTPROVIDED");
 }
 
-void write_debtor(document_writer& out, const dd_transaction& tx) {
+void write_debtor(document_writer& out, const document_schema& schema, const dd_transaction& tx) {
   const element debtor(out, "Dbtr");
   out.escaped("Nm", tx.name.c_str());
-  write_address(out, tx);
+  write_address(out, schema, tx);
 }
 
 void write_remittance(document_writer& out, const dd_transaction& tx) {
@@ -131,7 +133,7 @@ void write_transaction(document_writer& out, const document_schema& schema,
   write_amount(out, tx.amount);
   write_mandate(out, schema, tx);
   write_debtor_agent(out, schema, tx);
-  write_debtor(out, tx);
+  write_debtor(out, schema, tx);
   write_account(out, "DbtrAcct", tx.iban);
   write_remittance(out, tx);
 }
@@ -140,13 +142,14 @@ void write_transaction(document_writer& out, const document_schema& schema,
 
 bool ddi_toXML(message& msg, xml_buffer_t& out) {
   const std::time_t moment = platform::now();
+  const document_schema* const schema = schema_of(rulebook);
   if (!has_header(msg)) return false;
-  if (local_instrument_of(msg) == nullptr) {
+  const char* const local_instrument = local_instrument_of(msg, schema);
+  if (local_instrument == nullptr) {
     return msg.fail("Unknown/unsupported LocalInstrumentCode (setDDType)");
   }
   if (!ensure_message_id(msg, moment)) return msg.fail("ddi_toXML: strdup() failed");
-  const document_schema* const schema = selected_schema(msg);
-  if (schema == nullptr) return false;
+  if (schema == nullptr) return fail_without_schema(msg);
 
   payment_blocks<dd_transaction> blocks;
   if (!blocks.group(msg, slot_of)) return false;
@@ -155,7 +158,8 @@ bool ddi_toXML(message& msg, xml_buffer_t& out) {
                               .version = schema->direct_debit,
                               .initiation = "CstmrDrctDbtInitn",
                               .typical_transaction_bytes = 1500,
-                              .moment = moment};
+                              .moment = moment,
+                              .local_instrument = local_instrument};
   if (msg.strict != 0 && !schema_accepts(msg, form, blocks)) return false;
   return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }

@@ -1,7 +1,6 @@
 #include "xml/document_frame.h"
 
 #include "core/bounded_format.h"
-#include "core/rulebook.h"
 #include "xml/amount_text.h"
 #include "xml/document_stamp.h"
 #include "xml/parties.h"
@@ -33,10 +32,8 @@ std::int64_t stated_cents(const message& msg, const payment_totals& totals) {
   return exact ? totals.cents : cents_of(totals.sum);
 }
 
-const document_schema* selected_schema(message& msg) {
-  const document_schema* const schema = schema_of(rulebook);
-  if (schema == nullptr) msg.fail("unknown/unsupported SEPA rulebook selected");
-  return schema;
+bool fail_without_schema(message& msg) {
+  return msg.fail("unknown/unsupported SEPA rulebook selected");
 }
 
 document_attributes::document_attributes(const document_form& form) {

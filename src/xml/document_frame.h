@@ -11,18 +11,18 @@
 
 namespace tivex {
 
-// What a document is called, and when it is written.
+// What a document is called, what it says of itself, and when it is written.
 struct document_form {
   const document_schema& schema;
   const char* version;     // of the schema, for this kind of document
   const char* initiation;  // the element below Document
   std::uint64_t typical_transaction_bytes;
   std::time_t moment;
+  const char* local_instrument = nullptr;  // of direct debits
 };
 
-// The schema of the selected rulebook; null, with the reason in the message, when
-// there is none.
-const document_schema* selected_schema(message& msg);
+// Notes that the selected rulebook has no schema, or that none is selected.
+bool fail_without_schema(message& msg);
 
 // The sum in cents that a document states: the prescribed one, in the strict mode
 // the exact one where the schema has room for its digits.
@@ -54,7 +54,7 @@ void write_amount(document_writer& out, double amount);
 // How the payments of a kind of document are written; blocks are numbered from 1.
 template <class record>
 struct payment_writer {
-  void (*header)(document_writer& out, const message& msg, const document_schema& schema,
+  void (*header)(document_writer& out, const message& msg, const document_form& form,
                  const payment_block<record>& block, int number);
   void (*transaction)(document_writer& out, const document_schema& schema, const record& tx);
 };
@@ -73,7 +73,7 @@ bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form
     write_group_header(writer, msg, blocks.totals(), form.moment);
     blocks.for_each([&](const payment_block<record>& block, int number) {
       const element payment(writer, "PmtInf");
-      write.header(writer, msg, form.schema, block, number);
+      write.header(writer, msg, form, block, number);
       for (const auto& entry : block.transactions) {
         write.transaction(writer, form.schema, *entry.tx);
       }

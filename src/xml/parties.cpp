@@ -3,8 +3,6 @@
 #include <array>
 #include <span>
 
-#include "core/rulebook.h"
-
 namespace tivex {
 
 namespace {
@@ -37,8 +35,8 @@ constexpr std::array<address_element, 3> line_elements = {{
     {"AdrLine", &transaction::addr_line2},
 }};
 
-std::span<const address_element> address_elements() {
-  if (current_rules().structured_address) return structured_elements;
+std::span<const address_element> address_elements(const document_schema& schema) {
+  if (schema.structured_address) return structured_elements;
   return line_elements;
 }
 
@@ -67,10 +65,10 @@ void write_party(document_writer& out, std::string_view element_name, const owne
   out.optional_escaped("Nm", name);
 }
 
-void write_address(document_writer& out, const transaction& tx) {
+void write_address(document_writer& out, const document_schema& schema, const transaction& tx) {
   if (!tx.addr_country && !tx.addr_town && !tx.addr_line1 && !tx.addr_line2) return;
   const element address(out, "PstlAdr", left_out_when_empty);
-  for (const address_element& part : address_elements()) {
+  for (const address_element& part : address_elements(schema)) {
     out.optional_escaped(part.name, tx.*part.value);
   }
 }

@@ -23,6 +23,6 @@ void write_party(document_writer& out, std::string_view element_name, const owne
 
 // The postal address of the other side, when there is one to write: country,
 // town or an address line.
-void write_address(document_writer& out, const transaction& tx);
+void write_address(document_writer& out, const document_schema& schema, const transaction& tx);
 
 }  // namespace tivex

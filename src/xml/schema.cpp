@@ -21,7 +21,8 @@ constexpr document_schema german_2012 = {
     .direct_debit = "pain.008.002.02",
     .has_location = true,
     .bic_element = "BIC",
-    .demands = german_demands | DEMAND_OTHER_BIC | DEMAND_NO_COR1 | DEMAND_UNBROKEN_MANDATE,
+    .cor1 = cor1_form::not_in_schema,
+    .demands = german_demands | DEMAND_OTHER_BIC | DEMAND_UNBROKEN_MANDATE,
 };
 
 constexpr document_schema german_2013 = {
@@ -29,6 +30,7 @@ constexpr document_schema german_2013 = {
     .direct_debit = "pain.008.003.02",
     .has_location = true,
     .bic_element = "BIC",
+    .cor1 = cor1_form::written,
     .demands = german_demands | DEMAND_UNBROKEN_MANDATE,
 };
 
@@ -36,6 +38,7 @@ constexpr document_schema iso_2009 = {
     .credit_transfer = "pain.001.001.03",
     .direct_debit = "pain.008.001.02",
     .bic_element = "BIC",
+    .cor1 = cor1_form::written,
     .demands = iso_demands,
 };
 
@@ -54,8 +57,9 @@ constexpr document_schema german_2024 = {
     .has_location = true,
     .bic_element = "BICFI",
     .smnda_on_account = true,
+    .structured_address = true,
     .date_or_time = true,
-    .demands = german_demands | DEMAND_TOWN_AND_COUNTRY | DEMAND_NO_COR1,
+    .demands = german_demands | DEMAND_TOWN_AND_COUNTRY,
 };
 
 // In the order of the rulebooks' numbers.
@@ -71,6 +75,16 @@ constexpr std::array<const document_schema*, rulebook_table.size()> schemas = {
     &german_2016,  // DE-3.5
     &german_2024,  // DE-3.7
 };
+
+// An address is written in the parts that the rulebook's keys give it.
+static_assert([] {
+  for (std::size_t number = 0; number < schemas.size(); ++number) {
+    if (schemas[number]->structured_address != rulebook_table[number].structured_address) {
+      return false;
+    }
+  }
+  return true;
+}());
 
 }  // namespace
 

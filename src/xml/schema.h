@@ -12,15 +12,22 @@ enum schema_demand : std::uint32_t {
   DEMAND_NOTHING = 0,
   DEMAND_OWN_IBAN = 1,
   DEMAND_OWN_BIC = 2,
-  DEMAND_NAMES = 4,                // of both parties
-  DEMAND_OTHER_BIC = 8,            // of the other side's bank
-  DEMAND_TOWN_AND_COUNTRY = 16,    // both, in a structured address
-  DEMAND_MANDATE = 32,             // its reference and the date of its signature
-  DEMAND_CREDITOR_FORM = 64,       // the EPC's form of creditor identifiers
-  DEMAND_SEPA_AMOUNT = 128,        // at most 999999999.99
-  DEMAND_NO_COR1 = 256,            // as the local instrument
-  DEMAND_SEPA_IDENTIFIER = 512,    // letters, digits, blank and + ? / | - : ( ) . , '
-  DEMAND_UNBROKEN_MANDATE = 1024,  // no blank in a mandate reference
+  DEMAND_NAMES = 4,               // of both parties
+  DEMAND_OTHER_BIC = 8,           // of the other side's bank
+  DEMAND_TOWN_AND_COUNTRY = 16,   // both, in a structured address
+  DEMAND_MANDATE = 32,            // its reference and the date of its signature
+  DEMAND_CREDITOR_FORM = 64,      // the EPC's form of creditor identifiers
+  DEMAND_SEPA_AMOUNT = 128,       // at most 999999999.99
+  DEMAND_SEPA_IDENTIFIER = 256,   // letters, digits, blank and + ? / | - : ( ) . , '
+  DEMAND_UNBROKEN_MANDATE = 512,  // no blank in a mandate reference
+};
+
+// What becomes of the local instrument COR1 where it was set, be it under another
+// rulebook.
+enum class cor1_form {
+  withdrawn,      // refused in any mode
+  not_in_schema,  // written all the same, but for the strict mode
+  written,
 };
 
 // Versions are named as their namespaces and files are.
@@ -31,8 +38,10 @@ struct document_schema {
   std::string_view bic_element;  // within FinInstnId
   // Where a change of the debtor's account is marked, else on the agent.
   bool smnda_on_account = false;
-  bool date_or_time = false;  // the execution date says which of the two it is
-  std::uint32_t demands;      // of schema_demand
+  bool structured_address = false;  // in place of address lines
+  bool date_or_time = false;        // the execution date says which of the two it is
+  cor1_form cor1 = cor1_form::withdrawn;
+  std::uint32_t demands;  // of schema_demand
 
   bool asks_for(std::uint32_t demand) const { return (demands & demand) != 0; }
 };

@@ -5,7 +5,6 @@
 #include <cstring>
 #include <span>
 
-#include "core/rulebook.h"
 #include "transactions/address_fields.h"
 #include "xml/value_flaw.h"
 
@@ -19,10 +18,10 @@ struct keyed_flaw {
   value_flaw found;
 };
 
-// What schemas look at in one value: the demand that makes it obligatory and the
-// test that it has to pass. Where no test stands, values that have been added or
-// set can hold nothing that a schema refuses. Some values need a function of their
-// own.
+// What schemas look at in one value: the demand that makes it obligatory, and the test
+// that it has to pass when it is there. Without a test its form has been checked for
+// good when it was set or added; values of which no schema asks anything have no row.
+// What is told by more than one value needs a function of its own.
 template <class holder>
 struct value_row {
   const char* key = nullptr;
@@ -44,7 +43,7 @@ struct value_row {
 // added.
 template <class record>
 keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
-  if (!current_rules().structured_address || (!tx.addr_town && !tx.addr_country)) return {};
+  if (!schema.structured_address || (!tx.addr_town && !tx.addr_country)) return {};
   const bool needs_both = schema.asks_for(DEMAND_TOWN_AND_COUNTRY);
   for (const field_row& part : structured_address_fields) {
     const owned_text& held = tx.*part.destination;
@@ -61,7 +60,7 @@ keyed_flaw find_amount_flaw(const record& tx, const document_schema& schema) {
   return {"amount", amount_flaw(cents_of(tx.amount), schema)};
 }
 
-// Without transactions no other value of the header is written.
+// Without transactions there is no payment block to hold the other values.
 constexpr auto credit_transfer_header = std::to_array<value_row<message>>({
     {.examine =
          [](const message& msg, const document_schema& /*schema*/) {
@@ -72,13 +71,13 @@ constexpr auto credit_transfer_header = std::to_array<value_row<message>>({
     {"name", &message::name, DEMAND_NAMES},
 });
 
-// The other values of the header have been found before.
+// IBAN, BIC, name and a transaction have been asked for before, in any mode.
 constexpr auto direct_debit_header = std::to_array<value_row<message>>({
     {"creditor identifier", &message::creditor_id, DEMAND_NOTHING, creditor_identifier_flaw},
     {.examine =
          [](const message& msg, const document_schema& schema) {
            const bool refused =
-               msg.local_instrument == TIVEX_DD_COR1 && schema.asks_for(DEMAND_NO_COR1);
+               msg.local_instrument == TIVEX_DD_COR1 && schema.cor1 != cor1_form::written;
            return keyed_flaw{"local instrument", {refused ? flaw::cor1 : flaw::none}};
          }},
 });
@@ -113,14 +112,21 @@ bool refuse(message& msg, std::uint32_t number, const keyed_flaw& flawed, const 
   return msg.fail_with("transaction %" PRIu32 ": %s %s", number, flawed.key, reason);
 }
 
+// The first flaw by the rows of a table, if there is one.
 template <class holder>
-bool values_accepted(message& msg, std::uint32_t number, const holder& target,
-                     const document_form& form, std::span<const value_row<holder>> rows) {
+keyed_flaw first_flaw(const holder& target, const document_schema& schema,
+                      std::span<const value_row<holder>> rows) {
   for (const value_row<holder>& row : rows) {
-    const keyed_flaw flawed = row.find_flaw(target, form.schema);
-    if (flawed.found) return refuse(msg, number, flawed, form.version);
+    const keyed_flaw flawed = row.find_flaw(target, schema);
+    if (flawed.found) return flawed;
   }
-  return true;
+  return {};
+}
+
+bool header_accepted(message& msg, const document_form& form,
+                     std::span<const value_row<message>> rows) {
+  const keyed_flaw flawed = first_flaw(msg, form.schema, rows);
+  return !flawed.found || refuse(msg, 0, flawed, form.version);
 }
 
 // The message's date counts where a transaction has none of its own.
@@ -167,8 +173,11 @@ template <class record>
 bool transactions_accepted(message& msg, const document_form& form,
                            std::span<const value_row<record>> rows) {
   std::uint32_t number = 1;
-  for (const auto* tx = first_transaction<record>(msg); tx != nullptr; tx = tx->next) {
-    if (!values_accepted<record>(msg, number++, *tx, form, rows)) return false;
+  for (const auto* tx = first_transaction<record>(msg); tx != nullptr; tx = tx->next, ++number) {
+    const bool lost = number == msg.lost.transaction;
+    const keyed_flaw flawed =
+        lost ? keyed_flaw{msg.lost.key, {flaw::lost}} : first_flaw(*tx, form.schema, rows);
+    if (flawed.found) return refuse(msg, number, flawed, form.version);
   }
   return true;
 }
@@ -176,7 +185,7 @@ bool transactions_accepted(message& msg, const document_form& form,
 template <class record>
 bool accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks,
               std::span<const value_row<message>> header, std::span<const value_row<record>> rows) {
-  return values_accepted<message>(msg, 0, msg, form, header) && frame_accepted(msg, form, blocks) &&
+  return header_accepted(msg, form, header) && frame_accepted(msg, form, blocks) &&
          transactions_accepted(msg, form, rows) && sums_accepted(msg, form, blocks);
 }
 

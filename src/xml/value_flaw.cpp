@@ -94,6 +94,8 @@ void describe(char* out, std::size_t size, value_flaw found, const char* version
       return;
     case flaw::missing:
       return bounded_format(out, size, "missing (required by %s)", version);
+    case flaw::lost:
+      return bounded_format(out, size, "lost (out of memory)");
     case flaw::no_date:
       return bounded_format(out, size, "is not a calendar date (required by %s)", version);
     case flaw::character:

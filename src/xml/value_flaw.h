@@ -11,6 +11,7 @@ namespace tivex {
 enum class flaw {
   none,
   missing,
+  lost,              // when it was to be copied
   no_date,           // of the calendar
   character,         // that the schema does not admit
   ill_formed,        // a character that no XML document admits in this place

@@ -6,6 +6,7 @@
 #include <limits>
 #include <new>
 #include <string_view>
+#include <utility>
 
 #include "platform/platform.h"
 
@@ -131,11 +132,9 @@ void xml_buffer_cut(xml_buffer_t& buf, std::uint32_t length) {
 }
 
 char* xml_buffer_take(xml_buffer_t& buf) {
-  // A block that shrinks stays where it is, or at worst as large as it was.
-  void* const fitted = std::realloc(buf.data, buf.capacity);
-  char* const text = fitted != nullptr ? static_cast<char*>(fitted) : buf.data;
-  buf = xml_buffer_t();
-  return text;
+  // It is not made to fit: realloc may move the text and leave what stood before
+  // unwiped, and what has never been written to costs no memory.
+  return std::exchange(buf, {}).data;
 }
 
 }  // namespace tivex
