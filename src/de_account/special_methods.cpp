@@ -3,6 +3,18 @@
 
 namespace tivex::check_digits {
 
+namespace {
+
+// As weighted_xsum, but a digit that is not doubled counts as it is: not the same
+// for a character that is no digit.
+template <typename... int_weights>
+int doubled_sum(const normalised_account& account, int_weights... weights) {
+  return weighted_xsum(account, (weights == 2 ? 2 : 0)...) +
+         weighted_sum(account, (weights == 2 ? 0 : weights)...);
+}
+
+}  // namespace
+
 // As method 10, but a computed check digit 10 becomes 9.
 account_result method_11(const normalised_account& account) {
   const int remainder = weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10) % 11;
@@ -15,13 +27,13 @@ account_result method_11(const normalised_account& account) {
 account_result method_16(const normalised_account& account) {
   const int remainder = weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 2, 3, 4) % 11;
   if (remainder == 1 && account.c(9) == account.c(10)) return VALID;
-  return method_06(account);
+  return valid_if((remainder == 0 || remainder == 1 ? 0 : 11 - remainder) == account.d(10));
 }
 
 // The check digit at position 8 covers the six-digit root at positions 2 to 7:
-// sum of cross sums less 1, modulus 11, difference to 10.
+// sum with cross sums of the doubled digits less 1, modulus 11, difference to 10.
 account_result method_17(const normalised_account& account) {
-  const int total = weighted_xsum(account, 0, 0, 0, 2, 1, 2, 1, 2, 1, 0) - 1;
+  const int total = doubled_sum(account, 0, 0, 0, 2, 1, 2, 1, 2, 1, 0) - 1;
   return valid_if((10 - total % 11) % 10 == account.d(8));
 }
 
@@ -74,8 +86,8 @@ account_result method_25(const normalised_account& account) {
   return valid_if(account.c(10) == '0' && (account.c(2) == '8' || account.c(2) == '9'));
 }
 
-// Of methods 27 and 29: each digit from position 9 leftwards is transformed by the rows of a table
-// in turn; the check digit completes the sum to a multiple of 10.
+// Of methods 27 and 29: each digit from position 9 leftwards is transformed by the
+// rows of a table in turn; the check digit completes the sum to a multiple of 10.
 account_result check_transformed(const normalised_account& account) {
   static constexpr signed char transform_table[4][10] = {{0, 1, 5, 9, 3, 7, 4, 8, 2, 6},
                                                          {0, 1, 7, 6, 9, 8, 3, 2, 5, 4},
@@ -98,15 +110,20 @@ account_result method_31(const normalised_account& account) {
 }
 
 // Of methods 51, 73, 81, 84, 87 and A8 for impersonal accounts (9 at position 3):
-// modulus 11 from position 3 on, or else over all positions, as method 10.
+// modulus 11 from position 3 on, or else over all positions. Remainders below 0
+// give 0, too.
 account_result exception_51(const normalised_account& account) {
-  return first_of<MOD<11, 10, 0, 2, 3, 4, 5, 6, 7, 8, 0, 0>, method_10>(account);
+  const auto agrees = [&account](int remainder) {
+    return (remainder <= 1 ? 0 : 11 - remainder) == account.d(10);
+  };
+  return valid_if(agrees(weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 8, 0, 0) % 11) ||
+                  agrees(weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10) % 11));
 }
 
 // Modulus 11, difference to 11; results 10 and 11 are no check digits.
 account_result method_56(const normalised_account& account) {
-  const int total = weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 2, 3, 4);
-  return valid_if(11 - total % 11 == account.d(10));
+  const int remainder = weighted_sum(account, 0, 2, 3, 4, 5, 6, 7, 2, 3, 4) % 11;
+  return valid_if(remainder != 0 && remainder != 1 && 11 - remainder == account.d(10));
 }
 
 // Method 63 on the account without its first two positions, with the sub-account
@@ -121,21 +138,23 @@ account_result method_66(const normalised_account& account) {
   if (account.c(1) != '0') return INVALID;
   if (account.c(2) == '9') return NOT_CHECKED;
   const int remainder = weighted_sum(account, 0, 2, 3, 4, 5, 6, 0, 0, 7, 0) % 11;
-  return valid_if((remainder <= 1 ? 1 - remainder : 11 - remainder) == account.d(10));
+  const bool swapped = remainder == 0 || remainder == 1;
+  return valid_if((swapped ? 1 - remainder : 11 - remainder) == account.d(10));
 }
 
 // Modulus 11 over positions 2 to 7; remainders 0 and 1 are the check digit
 // themselves.
 account_result method_71(const normalised_account& account) {
   const int remainder = weighted_sum(account, 0, 0, 0, 1, 2, 3, 4, 5, 6, 0) % 11;
-  return valid_if((remainder <= 1 ? remainder : 11 - remainder) == account.d(10));
+  const bool as_it_is = remainder == 0 || remainder == 1;
+  return valid_if((as_it_is ? remainder : 11 - remainder) == account.d(10));
 }
 
-// For an account of exactly six digits: as method 00, but the check digit
-// completes the sum to the next number that ends in 5.
+// For an account of exactly six digits: the sum as in method 17; the check digit
+// completes it to the next number that ends in 5.
 account_result method_74_six_digits(const normalised_account& account) {
   if (!account.has("0000") || account.c(5) == '0') return INVALID;
-  const int total = weighted_xsum(account, 0, 2, 1, 2, 1, 2, 0, 0, 0, 0);
+  const int total = doubled_sum(account, 0, 2, 1, 2, 1, 2, 0, 0, 0, 0);
   return valid_if((15 - total % 10) % 10 == account.d(10));
 }
 
@@ -184,7 +203,7 @@ account_result method_b9(const normalised_account& account) {
 
 // As method 17, over positions 1 to 9 and with the check digit at position 10.
 account_result method_c1_five(const normalised_account& account) {
-  const int total = weighted_xsum(account, 0, 1, 2, 1, 2, 1, 2, 1, 2, 1) - 1;
+  const int total = doubled_sum(account, 0, 1, 2, 1, 2, 1, 2, 1, 2, 1) - 1;
   return valid_if((10 - total % 11) % 10 == account.d(10));
 }
 

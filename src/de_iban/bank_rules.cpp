@@ -57,7 +57,7 @@ void drop_zero_at_4(rule_input& input) {
 
 // Rule 41: the bank has one account, whatever number is given.
 rule_result rule_41(char* iban, rule_input&) {
-  constexpr char only_iban[] = "DE96500604000000011404";
+  static constexpr char only_iban[] = "DE96500604000000011404";
   std::memcpy(iban, only_iban, sizeof only_iban);
   return MADE;
 }
