@@ -60,6 +60,26 @@ std::string types_behind_all_entries(std::size_t size) {
 std::string numbers_without_slash(std::size_t size) {
   return head + repeated("\r\n:28C:1", size) + "\r\n";
 }
+// Numbers that may stand behind any white space. The last scan of each tag goes
+// through all that follows it.
+std::string tags_without_number(std::size_t size) {
+  return repeated("\r\n:20:A\r\n:60F:\r\n:61:\r\n:28C:\r\n:86:\r\n", size) + "\r\n";
+}
+std::string numbers_behind_lines(std::size_t size) {
+  const std::string lines = repeated("\r\n", 1000);
+  return repeated("\r\n:20:A\r\n:28C:" + lines + "1/" + lines + "\r\n:60F:C24" + lines + "01" +
+                      lines + "31\r\n:61:" + lines + "240131C1,N" + lines + ":86:" + lines +
+                      "166?34" + lines,
+                  size) +
+         "\r\n";
+}
+std::string number_behind_blanks(std::size_t size) {
+  return head + "\r\n:60F:C24" + repeated(" ", size) + "\r\n";
+}
+// Dates that are read, with an amount behind the next lines.
+std::string balances_without_amount(std::size_t size) {
+  return head + repeated("\r\n:60F:C261102", size / 2) + repeated("\r\n", size / 2) + tail + "\r\n";
+}
 std::string one_field(std::size_t size) {
   return head + entry + "?60" + repeated("a word, ", size) + tail + "\r\n";
 }
@@ -110,6 +130,10 @@ READ(entries_without_type);
 READ(statements_without_type);
 READ(types_behind_all_entries);
 READ(numbers_without_slash);
+READ(tags_without_number);
+READ(numbers_behind_lines);
+READ(number_behind_blanks);
+READ(balances_without_amount);
 READ(one_field);
 
 // A byte that the ordinary file does not hold.

@@ -45,3 +45,19 @@ TEST(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
   EXPECT_GT(watch.blocks(), 100u);
   EXPECT_EQ(watch.blocks_with_text(), 0u);
 }
+
+// The amount of a record stands in no text.
+TEST(Wiping, OverwritesTheNumbersOfRecords) {
+  const double amount = 12345.67;
+  const std::string bytes(reinterpret_cast<const char*>(&amount), sizeof amount);
+  for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
+    const runtime_control::released_text_watch watch(bytes);
+    {
+      const message_ptr msg = new_message(type);
+      ASSERT_EQ(add(msg, {{"amount", "12345.67"}}), 1);
+      ASSERT_EQ(msg->control_sum, amount);
+    }
+    EXPECT_GE(watch.blocks(), 2u);
+    EXPECT_EQ(watch.blocks_with_text(), 0u) << type;
+  }
+}

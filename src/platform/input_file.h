@@ -14,7 +14,8 @@ class input_file {
   input_file& operator=(const input_file&) = delete;
   ~input_file();
 
-  // Never waits, not for the other end of a pipe either.
+  // Does not wait for the other end of a pipe, but while another process gives up its
+  // lease on the file.
   bool open(const char* path);
   bool get_size(std::int64_t& bytes) const;
   // The number of bytes read, 0 at the end, -1 on failure.

@@ -1,3 +1,6 @@
+// Files of 2 GiB and more on 32-bit systems too.
+#define _FILE_OFFSET_BITS 64  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+
 #include <errno.h>
 #include <fcntl.h>
 #include <string.h>
@@ -26,7 +29,17 @@ bool input_file::open(const char* path) {
     errno = EFAULT;
     return false;
   }
-  descriptor_ = ::open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  constexpr int flags = O_RDONLY | O_CLOEXEC;
+  // Without waiting, lest a pipe that nobody writes into waits for ever.
+  descriptor_ = ::open(path, flags | O_NONBLOCK);
+  if (descriptor_ >= 0) {
+    // Reading is to wait for its bytes. Should this fail, files read the same.
+    static_cast<void>(::fcntl(descriptor_, F_SETFL, 0));
+  } else if (errno == EWOULDBLOCK) {
+    // Another process has a lease on the file, and the system bounds the time that it
+    // has to give it up. A pipe is never refused so.
+    descriptor_ = ::open(path, flags);
+  }
   return descriptor_ >= 0;
 }
 

@@ -63,7 +63,8 @@ int load_file(statement_parser& parser, const char* path) {
   const bool fits = static_cast<std::int64_t>(wanted) == size && wanted + 1 != 0;
   text_block block(fits ? wanted + 1 : static_cast<std::size_t>(-1));
   if (block.text == nullptr) {
-    return parser.fail("Failed to allocate %li bytes", static_cast<long>(size));
+    // A long is too short for the size on some systems.
+    return parser.fail("Failed to allocate %lli bytes", static_cast<long long>(size));
   }
   if (!read_whole(file, block.text, wanted)) {
     return fail_with_reason(parser, "Error while reading from file", errno);

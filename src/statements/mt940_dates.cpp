@@ -4,9 +4,9 @@
 
 namespace tivex {
 
-bool scan_date(std::string_view characters, std::tm& date) {
+bool scan_date(std::string_view text, std::tm& date) {
   constexpr std::size_t width = 2;
-  number_scanner scanner(characters);
+  number_scanner scanner(text);
   return scanner.read_signed(width, date.tm_year) && scanner.read_signed(width, date.tm_mon) &&
          scanner.read_signed(width, date.tm_mday);
 }

@@ -70,12 +70,12 @@ line_outcome read_entry(mt940_progress& progress) {
   progress.entry = entry;
 
   char* at = progress.at(tag_length);
-  char* const date_end = step(at, progress.end, date_length);
-  if (!scan_date(between(at, date_end), entry->value_date)) return line_outcome::statement_ends;
+  if (!scan_date(between(at, progress.end), entry->value_date)) return line_outcome::statement_ends;
   const int value_year = entry->value_date.tm_year;
   const int value_month = entry->value_date.tm_mon;
   complete_date(entry->value_date);
-  at = date_end;
+  // Wherever the scan ended.
+  at = step(at, progress.end, date_length);
   char* const entry_date_end = step(at, progress.end, 4);
   if (read_entry_date(between(at, entry_date_end), value_year, value_month, entry->booking_date)) {
     at = entry_date_end;

@@ -107,7 +107,7 @@ void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* cont
       append_name(entry, text);
       break;
     case 34:
-      number_scanner(between(content, step(content, end, 3))).read_signed(3, entry.text_key_ext);
+      number_scanner(text).read_signed(3, entry.text_key_ext);
       break;
     default:
       break;
@@ -134,7 +134,7 @@ line_outcome read_information(mt940_progress& progress) {
   char* const field = progress.at(tag_length);
   char* const next_tag = find_line_end(progress.line, progress.end, ":");
   char* const field_end = next_tag == nullptr ? progress.end : join_lines(field, next_tag);
-  number_scanner(between(field, step(field, field_end, 3))).read_signed(3, progress.entry->gvc);
+  number_scanner(between(field, field_end)).read_signed(3, progress.entry->gvc);
   // Without a tag behind it the field's end is unknown.
   if (next_tag == nullptr) return line_outcome::statement_ends;
   read_subfields(*progress.entry, field, field_end);

@@ -27,7 +27,9 @@ line_outcome read_balance(const mt940_progress& progress, const balance_fields& 
   char* const date_start = step(mark, progress.end, 1);
   char* const currency = step(date_start, progress.end, date_length);
   char* const amount = step(currency, progress.end, currency_length);
-  if (!scan_date(between(date_start, currency), balance.date)) return line_outcome::statement_ends;
+  if (!scan_date(between(date_start, progress.end), balance.date)) {
+    return line_outcome::statement_ends;
+  }
   complete_date(balance.date);
   // Of a text that ends here nothing new is read.
   if (currency < progress.end) copy_text(balance.currency, between(currency, amount));
@@ -56,11 +58,11 @@ line_outcome read_account(mt940_progress& progress) {
 line_outcome read_statement_number(mt940_progress& progress) {
   const std::string_view line = between(progress.line, progress.line_limit());
   const std::size_t number_at = line.find(':', 1) + 1;
-  const std::string_view numbers = {line.data() + number_at, line.size() - number_at};
   tivex_stmt_t& statement = *progress.statement;
-  number_scanner scanner(numbers);
+  number_scanner scanner(between(progress.at(number_at), progress.end));
   if (!scanner.read_unsigned(statement.statement_no)) return line_outcome::statement_ends;
-  if (numbers.find('/') == std::string_view::npos) {
+  // Only the slash has to stand in the tag's line; the numbers may stand further on.
+  if (line.find('/', number_at) == std::string_view::npos) {
     statement.sequence_no = 0;
     return line_outcome::next_line;
   }

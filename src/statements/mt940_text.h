@@ -43,13 +43,14 @@ void copy_text(char (&field)[size], std::string_view text, std::size_t used = 0)
 // The first comma, if there is one, becomes a point.
 void point_for_comma(char* from, const char* to);
 
-// Reads numbers from a few characters as scanf does with %Nd and %u: leading white
-// space is skipped, a sign is taken.
+// Reads numbers as scanf does with %Nd and %u from where a text goes on: white space is
+// skipped, line ends included, and a sign is taken. A scan never goes past a tag's
+// colon, so all scans together take time in proportion to the text.
 class number_scanner {
  public:
-  explicit number_scanner(std::string_view characters) : rest_(characters) {}
+  explicit number_scanner(std::string_view text) : rest_(text) {}
 
-  // At most so many characters, the sign among them.
+  // At most so many characters, the sign among them but no white space.
   bool read_signed(std::size_t width, int& value);
   // Any number of digits; what is beyond 64 bits counts as the largest of them, and
   // of those the low 32 bits are taken.

@@ -1,64 +1,25 @@
 // Bank statements: what each line of a file becomes, the parser's life, hostile files.
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <memory>
 #include <set>
 
 #include "statements/load_file.h"
 #include "statements/mt940.h"
 #include "statements/mt940_text.h"
-#include "statements/statement_dump.h"
+#include "statements/statement_files.h"
 #include "support/runtime_control.h"
-#include "support/table.h"
-
-namespace {
 
 namespace fs = std::filesystem;
 
-struct parser_deleter {
-  void operator()(tivex_stmt_parser_t* parser) const { tivex_stmt_parser_free(parser); }
-};
-using parser_ptr = std::unique_ptr<tivex_stmt_parser_t, parser_deleter>;
+namespace {
 
-parser_ptr new_parser() { return parser_ptr(tivex_stmt_parser_new()); }
-
-int load(const parser_ptr& parser, const fs::path& path) {
-  return tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940, path.c_str());
+std::string bytes_of(double number) {
+  return {reinterpret_cast<const char*>(&number), sizeof number};
 }
-
-// Result and error text of a load, and what was read.
-std::string outcome_of(const fs::path& path) {
-  const parser_ptr parser = new_parser();
-  const int result = load(parser, path);
-  const std::string error = tivex_stmt_parser_getError(parser.get());
-  return "load=" + std::to_string(result) + '\n' + (error.empty() ? "" : "error=" + error + '\n') +
-         dump_of(tivex_stmt_parser_getStatement(parser.get()));
-}
-
-// A file that is there as long as the object lives.
-struct temporary_file {
-  const fs::path path =
-      fs::temp_directory_path() / ("tivex_statement_" + std::to_string(::getpid()));
-  explicit temporary_file(const std::string& content) {
-    std::ofstream(path, std::ios::binary) << content;
-  }
-  ~temporary_file() { fs::remove(path); }
-};
-
-std::string content_of(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-const fs::path example = fs::path(TIVEX_SOURCE) / "../examples/statement.sta";
 
 }  // namespace
 
@@ -125,27 +86,6 @@ TEST(StatementParser, ReadsOneFileInItsLife) {
   tivex_stmt_parser_free(nullptr);
 }
 
-TEST(StatementParser, TellsWhyAFileCannotBeRead) {
-  const std::string no_file = "error=Can't open input file: " + std::string(std::strerror(ENOENT));
-  EXPECT_EQ(outcome_of("no/such/file"), "load=0\n" + no_file + '\n');
-  EXPECT_EQ(outcome_of("/tmp"), "load=0\nerror=Error while reading from file: " +
-                                    std::string(std::strerror(EISDIR)) + '\n');
-  const parser_ptr parser = new_parser();
-  EXPECT_EQ(tivex_stmt_parser_load(parser.get(), 1, nullptr), 0);
-  EXPECT_EQ(std::string(tivex_stmt_parser_getError(parser.get())).find("Can't open input file: "),
-            0u);
-  // Nobody writes into the pipe: opening it must not wait.
-  const temporary_file name("");
-  fs::remove(name.path);
-  ASSERT_EQ(::mkfifo(name.path.c_str(), 0600), 0);
-  EXPECT_EQ(outcome_of(name.path), "load=0\nerror=Input file is empty\n");
-  // A file that states a size and yields less.
-  const fs::path shrinking = "/sys/devices/system/cpu/online";
-  if (fs::exists(shrinking)) {
-    EXPECT_EQ(outcome_of(shrinking), "load=1\n");
-  }
-}
-
 TEST(StatementParser, NeedsItsStateAndAText) {
   const parser_ptr parser = new_parser();
   EXPECT_EQ(tivex::load_file(*parser, example.c_str()), 0);
@@ -162,6 +102,7 @@ TEST(StatementParser, NeedsItsStateAndAText) {
 TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
   bool happened = true;
   std::set<std::string> errors;
+  const runtime_control::released_text_watch watch("SVWZ+");
   for (std::size_t n = 1; happened; ++n) {
     const runtime_control::failing_allocation failing(n);
     const parser_ptr parser = new_parser();
@@ -177,18 +118,27 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
   EXPECT_EQ(errors, (std::set<std::string>{
                         "", "Error while allocating " + std::to_string(sizeof(tivex::mt940_state)),
                         "Failed to allocate " + size}));
+  EXPECT_GT(watch.blocks(), 50u);
+  EXPECT_EQ(watch.blocks_with_text(), 0u);
 }
 
+// The text of the file, and the amounts of the records.
 TEST(StatementParser, WipesWhatItReleases) {
-  std::size_t with_text = 0, blocks = 0;
-  {
-    const runtime_control::released_text_watch watch("SVWZ+");
-    outcome_of(example);
-    with_text = watch.blocks_with_text();
-    blocks = watch.blocks();
+  const std::string text =
+      "\r\n:20:R\r\n:60F:C240131EUR76543,21\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,"
+      "00NTRF\r\n";
+  for (const std::string& bytes : {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
+    const temporary_file file(text);
+    const runtime_control::released_text_watch watch(bytes);
+    parser_ptr parser = new_parser();
+    ASSERT_EQ(load(parser, file.path), 1);
+    const tivex_stmt_t* const statement = tivex_stmt_parser_getStatement(parser.get());
+    ASSERT_EQ(statement->opening_balance, 76543.21);
+    ASSERT_EQ(statement->first_tx->amount, 12345.67);
+    parser.reset();
+    EXPECT_EQ(watch.blocks(), 6u) << "parser, state, text, statement and two entries";
+    EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
   }
-  EXPECT_GT(blocks, 10u);
-  EXPECT_EQ(with_text, 0u);
 }
 
 TEST(StatementText, IsSearchedOnceForACharacter) {

@@ -1,9 +1,14 @@
 #include "support/runtime_control.h"
 
+#include <fcntl.h>
 #include <malloc.h>
+#include <sys/stat.h>
 #include <sys/types.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -19,6 +24,7 @@ std::atomic<bool> all_later_fail = false;
 std::atomic<bool> failure_happened = false;
 std::optional<std::time_t> clock_moment;
 std::optional<unsigned> process_id;
+file_control* files = nullptr;
 std::string watched_text;
 std::atomic<std::size_t> watched_blocks = 0;
 std::atomic<std::size_t> watched_blocks_with_text = 0;
@@ -27,6 +33,12 @@ bool allocation_fails() {
   if (all_later_fail && failure_happened) return true;
   if (allocations_left == 0 || --allocations_left > 0) return false;
   failure_happened = true;
+  return true;
+}
+
+bool status_fails() {
+  if (files == nullptr || files->status_error == 0) return false;
+  errno = files->status_error;
   return true;
 }
 
@@ -67,6 +79,9 @@ fixed_clock::~fixed_clock() {
 fixed_process_id::fixed_process_id(unsigned id) { process_id = id; }
 fixed_process_id::~fixed_process_id() { process_id.reset(); }
 
+file_control::file_control() { files = this; }
+file_control::~file_control() { files = nullptr; }
+
 released_text_watch::released_text_watch(std::string text) {
   watched_blocks = 0;
   watched_blocks_with_text = 0;
@@ -89,6 +104,10 @@ void* __real_realloc(void* block, std::size_t size);
 void __real_free(void* block);
 std::time_t __real_time(std::time_t* moment);
 pid_t __real_getpid(void);
+ssize_t __real_read(int descriptor, void* buffer, std::size_t size);
+// The C library has one of them or both.
+[[gnu::weak]] int __real_fstat(int descriptor, struct stat* status);
+[[gnu::weak]] int __real_fstat64(int descriptor, struct stat64* status);
 
 void* __wrap_malloc(std::size_t size) { return allocation_fails() ? nullptr : __real_malloc(size); }
 
@@ -112,4 +131,24 @@ std::time_t __wrap_time(std::time_t* moment) {
 }
 
 pid_t __wrap_getpid(void) { return process_id ? static_cast<pid_t>(*process_id) : __real_getpid(); }
+
+ssize_t __wrap_read(int descriptor, void* buffer, std::size_t size) {
+  if (files == nullptr) return __real_read(descriptor, buffer, size);
+  files->without_waiting |= (fcntl(descriptor, F_GETFL) & O_NONBLOCK) != 0;
+  if (++files->reads == files->failing_read) {
+    errno = files->read_error;
+    return -1;
+  }
+  const ssize_t count = __real_read(descriptor, buffer, std::min(size, files->longest_read));
+  if (count > 0) files->bytes += static_cast<std::size_t>(count);
+  return count;
+}
+
+int __wrap_fstat(int descriptor, struct stat* status) {
+  return status_fails() ? -1 : __real_fstat(descriptor, status);
+}
+
+int __wrap_fstat64(int descriptor, struct stat64* status) {
+  return status_fails() ? -1 : __real_fstat64(descriptor, status);
+}
 }

@@ -28,7 +28,26 @@ struct fixed_process_id {
   ~fixed_process_id();
 };
 
-// Counts released blocks, and those that still hold a text.
+// What the system answers to calls for a file. Reads bring at most so many bytes each,
+// and the n-th of them (counted from 1) fails, as does the file's status.
+struct file_control {
+  std::size_t longest_read = static_cast<std::size_t>(-1);
+  std::size_t failing_read = 0;
+  int read_error = 0;
+  int status_error = 0;
+  // What the reads came to.
+  std::size_t reads = 0;
+  std::size_t bytes = 0;
+  bool without_waiting = false;  // on a descriptor that was still open so
+
+  file_control();
+  ~file_control();
+  file_control(const file_control&) = delete;
+  file_control& operator=(const file_control&) = delete;
+};
+
+// Counts released blocks, and those that still hold these bytes, be they a text or a
+// number's.
 struct released_text_watch {
   explicit released_text_watch(std::string text);
   ~released_text_watch();
