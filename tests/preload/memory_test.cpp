@@ -57,6 +57,7 @@ void run_at_every_place(const job& tested) {
   for (const bool all_later : {false, true}) {
     for (current = {1, all_later}; run_once(tested, usual); ++current.fail_at) {
     }
+    expect(current.fail_at > 1 || tested.failures.empty(), tested, "allocates nothing");
   }
 }
 
