@@ -8,8 +8,6 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 
 #include "descriptor.h"
 #include "signals_held.h"
@@ -98,9 +96,13 @@ std::string replace_file(const std::string& path, std::string_view text) {
   return temporary.write(text, mode) && temporary.take_place_of(target) ? "" : reason();
 }
 
-bool same_file(const std::string& left, const std::string& right) {
-  std::error_code ignored;
-  return std::filesystem::equivalent(left, right, ignored);
+bool is_file_to_read(const std::string& output, const std::string& input) {
+  struct stat written {};
+  struct stat read {};
+  if (output == "-" || ::stat(output.c_str(), &written) != 0) return false;
+  const int result = input == "-" ? ::fstat(STDIN_FILENO, &read) : ::stat(input.c_str(), &read);
+  return result == 0 && !S_ISCHR(read.st_mode) && read.st_dev == written.st_dev &&
+         read.st_ino == written.st_ino;
 }
 
 }  // namespace tivex_program

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "library_calls.h"
 #include "schema_flaw.h"
 #include "sound_values.h"
 
@@ -30,7 +31,7 @@ bool loses_address(const csv_row& row, const std::vector<const column*>& columns
 
 std::string refusal_of(tivex_t* message) {
   const document_handle document(tivex_toXML(message));
-  return document ? "" : tivex_getError(message);
+  return document ? "" : library_error(message);
 }
 
 }  // namespace
@@ -45,7 +46,7 @@ std::string schema_probe::header_fault() const {
   const message_handle message = make_message(header_, fault);
   std::vector<tivex_keyvalue_t> list(std::begin(sound_values), std::end(sound_values));
   list.push_back({nullptr, nullptr});
-  tivex_add(message.get(), list.data());
+  if (!add_transaction(message.get(), list.data())) return library_error(message.get());
   return header_flaw(refusal_of(message.get()));
 }
 
@@ -78,7 +79,7 @@ std::string schema_probe::refusal(std::span<const csv_row> rows,
   std::vector<tivex_keyvalue_t> list;
   for (const csv_row& row : rows) {
     list_cells(row, columns, list);
-    tivex_add(message.get(), list.data());
+    if (!add_transaction(message.get(), list.data())) return library_error(message.get());
   }
   return refusal_of(message.get());
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "csv_reader.h"
+#include "library_calls.h"
 #include "progress_line.h"
 #include "refused_row.h"
 
@@ -49,7 +50,7 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
     std::optional<row_fault> fault = unsound_cell(row, columns);
     if (!fault) {
       list_cells(row, columns, list);
-      if (tivex_add(message, list.data()) == 1) {
+      if (add_transaction(message, list.data())) {
         probe.add(row, columns, faults);
         continue;
       }
