@@ -86,7 +86,7 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   if (!unknown.empty()) return usage_error("--rulebook: " + unknown);
   const payment_header header = header_of(command, arguments);
   std::string fault;
-  const message_handle message = make_message(header, fault);
+  message_handle message = make_message(header, fault);
   schema_probe probe(header);
   if (fault.empty()) fault = probe.header_fault();
   if (!fault.empty()) return usage_error(fault);
@@ -108,6 +108,7 @@ int run(const payment_command& command, const payment_arguments& arguments) {
     print_error(header_flaw(library_error(message.get())));
     return exit_failure;
   }
+  message.reset();
   return write_document(arguments, document.get());
 }
 
