@@ -1,5 +1,6 @@
 #include "library_calls.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -16,13 +17,9 @@ constexpr std::string_view exhausted_starts[] = {"Error while allocating ", "Fai
 
 bool tells_exhaustion(std::string_view text) {
   const std::string_view reason = text.substr(0, text.find(" ("));
-  for (const std::string_view end : exhausted_ends) {
-    if (reason.ends_with(end)) return true;
-  }
-  for (const std::string_view start : exhausted_starts) {
-    if (reason.starts_with(start)) return true;
-  }
-  return false;
+  const auto ends = [reason](std::string_view end) { return reason.ends_with(end); };
+  const auto starts = [reason](std::string_view start) { return reason.starts_with(start); };
+  return std::ranges::any_of(exhausted_ends, ends) || std::ranges::any_of(exhausted_starts, starts);
 }
 
 std::string checked(const char* text) {
