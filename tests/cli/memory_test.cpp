@@ -62,12 +62,12 @@ TEST_P(Memory, EndsWithOneLineAndTheOldFile) {
 
 INSTANTIATE_TEST_SUITE_P(
     Program, Memory,
-    testing::Values(job{"transfer --lenient payments -o out", "800", "22000"},
-                    job{"tivex iban convert accounts -o out", "800", "22000"},
-                    job{"tivex iban check - <ibans", "800", "15000"},
-                    job{"tivex statement --format json statement", "800", "22000"},
-                    job{"tivex statement --format csv statement", "800", "22000"},
-                    job{"tivex statement statement", "800", "22000"},
-                    job{"tivex bank --json DE 10000000", "100", "12000"}));
+    testing::Values(job{"transfer --lenient payments -o out", "1500", "22000"},
+                    job{"tivex iban convert accounts -o out", "1500", "22000"},
+                    job{"tivex iban check - <ibans", "1000", "14000"},
+                    job{"tivex statement --format json statement", "1500", "22000"},
+                    job{"tivex statement --format csv statement", "1500", "22000"},
+                    job{"tivex statement statement", "1500", "22000"},
+                    job{"tivex bank --json DE 10000000", "300", "12000"}));
 
 }  // namespace
