@@ -61,7 +61,7 @@ int run(const account_query& query) {
     return exit_failure;
   }
   bool none_invalid = true;
-  for_each_argument(query.accounts, [&](const std::string& account) {
+  const bool read = for_each_argument(query.accounts, [&](const std::string& account) {
     const char* verdict = account_wanted;
     int result = TIVEX_ACCOUNT_INVALID;
     if (is_german_account(account)) {
@@ -73,7 +73,7 @@ int run(const account_query& query) {
     none_invalid = none_invalid && result != TIVEX_ACCOUNT_INVALID;
     std::printf("%s: %s\n", printable(account).c_str(), verdict);
   });
-  return flush_standard_output() && none_invalid ? exit_success : exit_failure;
+  return flush_standard_output() && read && none_invalid ? exit_success : exit_failure;
 }
 
 void check_options(const account_query& query) {

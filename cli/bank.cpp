@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "diagnostics.h"
+#include "exhausted_memory.h"
 #include "exit_status.h"
 #include "handles.h"
 #include "labelled_line.h"
@@ -114,7 +115,7 @@ std::string refusal(int result, const bank_query& query) {
     case -2:
       return subject(query) + ": not in the directory";
     default:
-      return "out of memory";
+      end_for_want_of_memory();
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <tivex.h>
 
+#include "document_room.h"
 #include "payment_tables.h"
 
 namespace tivex_program {
@@ -44,7 +45,9 @@ constinit const payment_command credit_transfer = {
     .description = "Write a credit transfer document (pain.001) from a CSV file",
     .example = example,
     .options = options,
-    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER, .columns = columns},
+    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER,
+                     .columns = columns,
+                     .least_bytes = least_credit_transfer},
 };
 
 }  // namespace tivex_program

@@ -1,9 +1,10 @@
 #include "csv_reader.h"
 
 #include <algorithm>
-#include <new>
 #include <string_view>
 #include <utility>
+
+#include "exhausted_memory.h"
 
 namespace tivex_program {
 namespace {
@@ -98,7 +99,7 @@ bool csv_reader::read_piece() {
   const bool malformed = parsed != length;
   if (!malformed && (row_complete_ || row_length_ <= longest_row)) return true;
 
-  if (malformed && csv_error(&parser_) != CSV_EPARSE) throw std::bad_alloc();
+  if (malformed && csv_error(&parser_) != CSV_EPARSE) end_for_want_of_memory();
   start_parser();
   skips_line_ = row_open_ = !ends_line;
   return refuse(malformed ? "malformed quoting"

@@ -32,9 +32,10 @@ std::string printable(std::string_view text) {
   return result;
 }
 
-void print_error(std::string_view text) {
-  const std::string line = printable(text) + '\n';
-  std::fwrite(line.data(), 1, line.size(), stderr);
-}
+std::string printable_line(std::string_view text) { return printable(text) + '\n'; }
+
+void print_error(std::string_view text) { print_lines(printable_line(text)); }
+
+void print_lines(std::string_view lines) { std::fwrite(lines.data(), 1, lines.size(), stderr); }
 
 }  // namespace tivex_program

@@ -9,7 +9,13 @@ namespace tivex_program {
 // as \xHH: error texts repeat what stood in a file, down to single bytes.
 std::string printable(std::string_view text);
 
+// Returns the text as such a line.
+std::string printable_line(std::string_view text);
+
 // Writes one printable line to standard error.
 void print_error(std::string_view text);
+
+// Writes printable lines as they are, and needs no memory for it.
+void print_lines(std::string_view lines);
 
 }  // namespace tivex_program

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "document_room.h"
 #include "payment_tables.h"
 
 namespace tivex_program {
@@ -70,7 +71,9 @@ constinit const payment_command direct_debit = {
     .description = "Write a direct debit document (pain.008) from a CSV file",
     .example = example,
     .options = options,
-    .transactions = {.message_type = TIVEX_DIRECT_DEBIT, .columns = columns},
+    .transactions = {.message_type = TIVEX_DIRECT_DEBIT,
+                     .columns = columns,
+                     .least_bytes = least_direct_debit},
 };
 
 }  // namespace tivex_program

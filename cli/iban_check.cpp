@@ -9,7 +9,7 @@
 #include "diagnostics.h"
 #include "each_argument.h"
 #include "exit_status.h"
-#include "handles.h"
+#include "library_calls.h"
 #include "standard_output.h"
 #include "value_rules.h"
 
@@ -28,8 +28,8 @@ prints
 std::string iban_fault(tivex_t* scratch, const std::string& iban) {
   // The library would see a text with a NUL byte up to it only.
   std::string fault = text_fault(iban);
-  if (!fault.empty() || tivex_setIBAN(scratch, iban.c_str()) == 1) return fault;
-  const std::string reason = tivex_getError(scratch);
+  if (!fault.empty() || set_iban(scratch, iban)) return fault;
+  const std::string reason = library_error(scratch);
   // What follows the reason repeats the IBAN.
   return reason.substr(0, reason.find(" ("));
 }
@@ -37,10 +37,6 @@ std::string iban_fault(tivex_t* scratch, const std::string& iban) {
 // Checks IBANs one by one and prints what it finds.
 class iban_checker {
  public:
-  iban_checker() : scratch_(tivex_new(TIVEX_CREDIT_TRANSFER)) {
-    if (!scratch_) throw std::bad_alloc();
-  }
-
   void check(const std::string& iban) {
     const std::string fault = iban_fault(scratch_.get(), iban);
     if (!fault.empty()) all_valid_ = false;
@@ -50,15 +46,15 @@ class iban_checker {
   bool all_valid() const { return all_valid_; }
 
  private:
-  message_handle scratch_;
+  message_handle scratch_ = new_message(TIVEX_CREDIT_TRANSFER);
   bool all_valid_ = true;
 };
 
 int run(const std::vector<std::string>& ibans) {
   iban_checker checker;
-  for_each_argument(ibans, [&checker](const std::string& iban) { checker.check(iban); });
-  if (!flush_standard_output()) return exit_failure;
-  return checker.all_valid() ? exit_success : exit_failure;
+  const bool read =
+      for_each_argument(ibans, [&checker](const std::string& iban) { checker.check(iban); });
+  return flush_standard_output() && read && checker.all_valid() ? exit_success : exit_failure;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <tivex.h>
 
+#include "exhausted_memory.h"
 #include "german_numbers.h"
 #include "handles.h"
 
@@ -37,7 +38,7 @@ std::string text_of(int status, bool made) {
 
 std::string name_of_bank(const std::string& bank_code) {
   tivex_bank_info_t* found = nullptr;
-  tivex_bankid_check("DE", bank_code.c_str(), &found);
+  if (tivex_bankid_check("DE", bank_code.c_str(), &found) == -3) end_for_want_of_memory();
   const bank_handle bank(found);
   return bank ? bank->name : "";
 }

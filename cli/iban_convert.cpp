@@ -50,7 +50,7 @@ struct conversion_query {
 
 int convert_accounts(const conversion_query& query) {
   bool all_made = true;
-  for_each_argument(query.arguments, [&](const std::string& account) {
+  const bool read = for_each_argument(query.arguments, [&](const std::string& account) {
     const iban_conversion conversion = convert_account(query.bank_code, account);
     const std::string bic = conversion.bic.empty() ? "" : conversion.bic + ' ';
     const std::string text = conversion.made()
@@ -59,12 +59,12 @@ int convert_accounts(const conversion_query& query) {
     all_made = all_made && conversion.made();
     std::printf("%s: %s\n", printable(account).c_str(), text.c_str());
   });
-  return flush_standard_output() && all_made ? exit_success : exit_failure;
+  return flush_standard_output() && read && all_made ? exit_success : exit_failure;
 }
 
 int convert_file(const conversion_query& query) {
   const std::string& name = query.arguments.front();
-  if (same_file(name, query.output)) {
+  if (is_file_to_read(query.output, name)) {
     print_error("--output: " + query.output + " is the file to read");
     return exit_usage;
   }
@@ -75,20 +75,23 @@ int convert_file(const conversion_query& query) {
     return exit_failure;
   }
   const bool to_file = query.output != "-";
+  // Made before: once the file is written nothing fails any more.
+  const std::string summary =
+      printable_line(labelled_line("converted", std::to_string(table.converted))) +
+      printable_line(labelled_line("refused", std::to_string(table.refused)));
   const std::string fault =
       to_file ? replace_file(query.output, table.text) : write_standard_output(table.text);
   if (!fault.empty()) {
     print_error((to_file ? query.output : "standard output") + ": " + fault);
     return exit_failure;
   }
-  print_error(labelled_line("converted", std::to_string(table.converted)));
-  print_error(labelled_line("refused", std::to_string(table.refused)));
+  print_lines(summary);
   return table.refused == 0 ? exit_success : exit_failure;
 }
 
 int print_bics(const std::vector<std::string>& ibans) {
   bool all_found = true;
-  for_each_argument(ibans, [&](const std::string& iban) {
+  const bool read = for_each_argument(ibans, [&](const std::string& iban) {
     char bic[12] = "";
     const int result = tivex_iban_getBIC(iban.c_str(), bic);
     const char* const text = result == 0    ? "there is a directory for AT, CH, DE and LI only"
@@ -99,7 +102,7 @@ int print_bics(const std::vector<std::string>& ibans) {
     all_found = all_found && *bic != '\0';
     std::printf("%s: %s\n", printable(iban).c_str(), text);
   });
-  return flush_standard_output() && all_found ? exit_success : exit_failure;
+  return flush_standard_output() && read && all_found ? exit_success : exit_failure;
 }
 
 }  // namespace

@@ -10,13 +10,19 @@
 #include "credit_transfer.h"
 #include "diagnostics.h"
 #include "direct_debit.h"
+#include "exhausted_memory.h"
 #include "exit_status.h"
 #include "iban_check.h"
 #include "iban_convert.h"
+#include "standard_output.h"
 #include "statement.h"
 
 namespace tivex_program {
 namespace {
+
+// What the arguments and the library's patterns take at most. The C library may damage
+// its heap when memory ends while it compiles a pattern.
+constexpr std::size_t memory_of_a_start = std::size_t{2} << 20;
 
 int run(int argument_count, char** arguments) {
   int exit_status = exit_success;
@@ -47,7 +53,8 @@ int run(int argument_count, char** arguments) {
     return exit_usage;
   } catch (const CLI::ParseError& error) {
     // Help and version arrive here too, as errors of status 0.
-    return program.exit(error) == 0 ? exit_success : exit_usage;
+    if (program.exit(error) != 0) return exit_usage;
+    return flush_standard_output() ? exit_success : exit_failure;
   }
   return exit_status;
 }
@@ -59,6 +66,7 @@ int main(int argument_count, char** arguments) {
   // A write that fails is reported, and what it leaves behind is removed.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  tivex_program::require_memory(tivex_program::memory_of_a_start);
   try {
     return tivex_program::run(argument_count, arguments);
   } catch (const std::exception& error) {

@@ -8,11 +8,9 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 
 #include "descriptor.h"
-#include "signals_held.h"
+#include "temporary_file.h"
 
 namespace tivex_program {
 namespace {
@@ -41,36 +39,6 @@ mode_t new_file_mode() {
   return 0666 & ~mask;
 }
 
-// A file beside the target that is removed unless it has taken its place.
-class temporary_file {
- public:
-  explicit temporary_file(const std::string& target)
-      : name_(target.substr(0, target.rfind('/') + 1) + ".tivex-XXXXXX") {
-    file_ = descriptor(::mkostemp(name_.data(), O_CLOEXEC));
-    exists_ = static_cast<bool>(file_);
-  }
-  ~temporary_file() {
-    if (exists_) ::unlink(name_.c_str());
-  }
-  temporary_file(const temporary_file&) = delete;
-  temporary_file& operator=(const temporary_file&) = delete;
-
-  bool write(std::string_view text, mode_t mode) {
-    return exists_ && file_.write_all(text) && ::fchmod(file_.number(), mode) == 0 &&
-           ::fsync(file_.number()) == 0 && file_.close();
-  }
-  bool take_place_of(const std::string& target) {
-    if (::rename(name_.c_str(), target.c_str()) != 0) return false;
-    exists_ = false;
-    return true;
-  }
-
- private:
-  std::string name_;
-  descriptor file_;
-  bool exists_ = false;
-};
-
 std::string write_directly(const std::string& path, std::string_view text) {
   descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
   return file && file.write_all(text) && file.close() ? "" : reason();
@@ -92,15 +60,18 @@ std::string replace_file(const std::string& path, std::string_view text) {
   const std::string target = follow_links(path);
   // Renaming would replace a file that its owner has closed to writing.
   if (exists && ::access(target.c_str(), W_OK) != 0) return reason();
-  const signals_held held;
-  temporary_file temporary(target);
+  temporary_file file(target.substr(0, target.rfind('/') + 1));
   const mode_t mode = exists ? status.st_mode & 07777 : new_file_mode();
-  return temporary.write(text, mode) && temporary.take_place_of(target) ? "" : reason();
+  return file.write(text) && file.take_name(target, mode) ? "" : reason();
 }
 
-bool same_file(const std::string& left, const std::string& right) {
-  std::error_code ignored;
-  return std::filesystem::equivalent(left, right, ignored);
+bool is_file_to_read(const std::string& output, const std::string& input) {
+  struct stat written {};
+  struct stat read {};
+  if (output == "-" || ::stat(output.c_str(), &written) != 0) return false;
+  const int result = input == "-" ? ::fstat(STDIN_FILENO, &read) : ::stat(input.c_str(), &read);
+  return result == 0 && !S_ISCHR(read.st_mode) && read.st_dev == written.st_dev &&
+         read.st_ino == written.st_ino;
 }
 
 }  // namespace tivex_program

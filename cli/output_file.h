@@ -15,7 +15,9 @@ std::string write_standard_output(std::string_view text);
 // of a failure, empty for none.
 std::string replace_file(const std::string& path, std::string_view text);
 
-// Whether two names lead to the same file.
-bool same_file(const std::string& left, const std::string& right);
+// Whether the output would take the place of the file that is read, or fill it. "-" is
+// standard input and standard output, whatever files there are. A terminal and other
+// devices of characters may be both.
+bool is_file_to_read(const std::string& output, const std::string& input);
 
 }  // namespace tivex_program

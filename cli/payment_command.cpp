@@ -12,6 +12,7 @@
 #include "exit_status.h"
 #include "fault_report.h"
 #include "input_file.h"
+#include "library_calls.h"
 #include "output_file.h"
 #include "payment_message.h"
 #include "rulebooks.h"
@@ -64,16 +65,19 @@ std::string list_columns(std::span<const column> columns) {
 int write_document(const payment_arguments& arguments, std::string_view document) {
   const bool to_file = arguments.output != "-";
   const std::string name = to_file ? arguments.output : "standard output";
+  // Made before: once the file is written nothing fails any more.
+  const document_form form{arguments.rulebook, !arguments.lenient};
+  std::string summary;
+  for (const std::string& line : document_summary(document, form, name)) {
+    summary += printable_line(line);
+  }
   const std::string fault =
       to_file ? replace_file(arguments.output, document) : write_standard_output(document);
   if (!fault.empty()) {
     print_error(name + ": " + fault);
     return exit_failure;
   }
-  const document_form form{arguments.rulebook, !arguments.lenient};
-  for (const std::string& line : document_summary(document, form, name)) {
-    print_error(line);
-  }
+  print_lines(summary);
   return exit_success;
 }
 
@@ -82,12 +86,12 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   if (!unknown.empty()) return usage_error("--rulebook: " + unknown);
   const payment_header header = header_of(command, arguments);
   std::string fault;
-  const message_handle message = make_message(header, fault);
+  message_handle message = make_message(header, fault);
   schema_probe probe(header);
   if (fault.empty()) fault = probe.header_fault();
   if (!fault.empty()) return usage_error(fault);
 
-  if (same_file(arguments.input, arguments.output)) {
+  if (is_file_to_read(arguments.output, arguments.input)) {
     return usage_error("--output: " + arguments.output + " is the file to read");
   }
   input_file input(arguments.input);
@@ -101,9 +105,10 @@ int run(const payment_command& command, const payment_arguments& arguments) {
   }
   const document_handle document(tivex_toXML(message.get()));
   if (!document) {
-    print_error(header_flaw(tivex_getError(message.get())));
+    print_error(header_flaw(library_error(message.get())));
     return exit_failure;
   }
+  message.reset();
   return write_document(arguments, document.get());
 }
 

@@ -1,16 +1,15 @@
 #include "payment_message.h"
 
-#include <new>
+#include "library_calls.h"
 
 namespace tivex_program {
 
 message_handle make_message(const payment_header& header, std::string& fault) {
-  message_handle message(tivex_new(header.message_type));
-  if (!message) throw std::bad_alloc();
+  message_handle message = new_message(header.message_type);
   for (const auto& [option, text] : header.values) {
     std::string reason = option->rule(text);
     if (reason.empty() && option->set(message.get(), text.c_str()) != 1) {
-      reason = tivex_getError(message.get());
+      reason = library_error(message.get());
     }
     if (reason.empty()) continue;
     fault = std::string(option->flag) + ": " + reason;

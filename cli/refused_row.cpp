@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "handles.h"
+#include "library_calls.h"
 #include "sound_values.h"
 
 namespace tivex_program {
@@ -25,11 +25,6 @@ constexpr missing_value missing_values[] = {
     {"Amount missing", "amount"},
 };
 
-std::string reason_of(const tivex_t* message) {
-  const char* const text = tivex_getError(message);
-  return text == nullptr ? "refused" : text;
-}
-
 // The key that a transaction lacks when it is refused for a reason; null when the
 // reason is another.
 const char* missing_key(const std::string& reason) {
@@ -43,18 +38,18 @@ const char* missing_key(const std::string& reason) {
 
 row_fault explain(const tivex_t* message, int message_type,
                   const std::vector<tivex_keyvalue_t>& list) {
-  const message_handle scratch(tivex_new(message_type));
+  const message_handle scratch = new_message(message_type);
   for (const tivex_keyvalue_t& entry : list) {
-    if (entry.key == nullptr || !scratch) break;
+    if (entry.key == nullptr) break;
     std::vector<tivex_keyvalue_t> alone(std::begin(sound_values), std::end(sound_values));
     alone.push_back(entry);
     alone.push_back({nullptr, nullptr});
-    if (tivex_add(scratch.get(), alone.data()) == 1) continue;
+    if (add_transaction(scratch.get(), alone.data())) continue;
     // What the value lacks alone, the row may have.
-    std::string reason = reason_of(scratch.get());
+    std::string reason = library_error(scratch.get());
     if (missing_key(reason) == nullptr) return {entry.key, std::move(reason)};
   }
-  std::string reason = reason_of(message);
+  std::string reason = library_error(message);
   const char* const key = missing_key(reason);
   return {key == nullptr ? "" : key, std::move(reason)};
 }

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "document_room.h"
+#include "library_calls.h"
 #include "schema_flaw.h"
 #include "sound_values.h"
 
@@ -28,11 +30,6 @@ bool loses_address(const csv_row& row, const std::vector<const column*>& columns
   return has_parts;
 }
 
-std::string refusal_of(tivex_t* message) {
-  const document_handle document(tivex_toXML(message));
-  return document ? "" : tivex_getError(message);
-}
-
 }  // namespace
 
 schema_probe::schema_probe(payment_header header) : header_(std::move(header)) {
@@ -45,8 +42,9 @@ std::string schema_probe::header_fault() const {
   const message_handle message = make_message(header_, fault);
   std::vector<tivex_keyvalue_t> list(std::begin(sound_values), std::end(sound_values));
   list.push_back({nullptr, nullptr});
-  tivex_add(message.get(), list.data());
-  return header_flaw(refusal_of(message.get()));
+  if (!add_transaction(message.get(), list.data())) return library_error(message.get());
+  const document_handle document(tivex_toXML(message.get()));
+  return document ? "" : header_flaw(library_error(message.get()));
 }
 
 void schema_probe::add(csv_row& row, const std::vector<const column*>& columns,
@@ -72,15 +70,18 @@ void schema_probe::finish(const std::vector<const column*>& columns, fault_repor
 }
 
 std::string schema_probe::refusal(std::span<const csv_row> rows,
-                                  const std::vector<const column*>& columns) const {
+                                  const std::vector<const column*>& columns) {
   std::string fault;
   const message_handle message = make_message(header_, fault);
   std::vector<tivex_keyvalue_t> list;
   for (const csv_row& row : rows) {
     list_cells(row, columns, list);
-    tivex_add(message.get(), list.data());
+    if (!add_transaction(message.get(), list.data())) return library_error(message.get());
   }
-  return refusal_of(message.get());
+  const document_handle document(tivex_toXML(message.get()));
+  if (!document) return library_error(message.get());
+  bytes_ += transaction_bytes(document.get());
+  return {};
 }
 
 }  // namespace tivex_program

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -28,13 +29,16 @@ class schema_probe {
   void add(csv_row& row, const std::vector<const column*>& columns, fault_report& faults);
   void finish(const std::vector<const column*>& columns, fault_report& faults);
 
+  // What the transactions looked at so far take in documents, without faults.
+  std::uint64_t bytes() const { return bytes_; }
+
  private:
   // The library's text when a message of these rows is refused, else empty.
-  std::string refusal(std::span<const csv_row> rows,
-                      const std::vector<const column*>& columns) const;
+  std::string refusal(std::span<const csv_row> rows, const std::vector<const column*>& columns);
 
   payment_header header_;
   std::vector<csv_row> batch_;
+  std::uint64_t bytes_ = 0;
 };
 
 }  // namespace tivex_program

@@ -4,15 +4,14 @@
 
 namespace tivex_program {
 
-// Holds back the signals that would end the program and leave a temporary file behind;
-// they arrive when it is gone.
+// Holds back every signal that can be, while a temporary file has a name: those that
+// would end the program and leave it behind arrive when it is gone.
 class signals_held {
  public:
   signals_held() {
-    sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : {SIGHUP, SIGINT, SIGTERM}) sigaddset(&held, signal);
-    sigprocmask(SIG_BLOCK, &held, &before_);
+    sigset_t all;
+    sigfillset(&all);
+    sigprocmask(SIG_BLOCK, &all, &before_);
   }
   ~signals_held() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
   signals_held(const signals_held&) = delete;

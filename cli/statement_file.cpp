@@ -1,11 +1,12 @@
 #include "statement_file.h"
 
 #include <cstddef>
-#include <new>
 #include <string_view>
 
 #include "diagnostics.h"
+#include "exhausted_memory.h"
 #include "input_file.h"
+#include "library_calls.h"
 #include "statement_lines.h"
 #include "temporary_copy.h"
 #include "wiped_bytes.h"
@@ -32,11 +33,11 @@ wiped_bytes read_all(input_file& input) {
 // empty, and for want of memory.
 std::string load(statement_file& file, const std::string& path, bool text_is_empty) {
   file.parser.reset(tivex_stmt_parser_new());
-  if (!file.parser) throw std::bad_alloc();
+  if (!file.parser) end_for_want_of_memory();
   if (tivex_stmt_parser_load(file.parser.get(), TIVEX_FORMAT_MT940, path.c_str()) != 1) {
-    std::string error = tivex_stmt_parser_getError(file.parser.get());
+    std::string error = library_error(file.parser.get());
     if (!error.empty()) return error;
-    if (!text_is_empty) throw std::bad_alloc();
+    if (!text_is_empty) end_for_want_of_memory();
   }
   return tivex_stmt_parser_getStatement(file.parser.get()) == nullptr ? "no statements" : "";
 }

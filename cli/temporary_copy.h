@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "signals_held.h"
+#include "temporary_file.h"
 
 namespace tivex_program {
 
@@ -12,19 +12,14 @@ namespace tivex_program {
 class temporary_copy {
  public:
   explicit temporary_copy(std::string_view text);
-  ~temporary_copy();
-  temporary_copy(const temporary_copy&) = delete;
-  temporary_copy& operator=(const temporary_copy&) = delete;
 
-  const std::string& path() const { return path_; }
+  const std::string& path() const { return file_.path(); }
   // The reason why there is no whole copy, empty when there is one.
   const std::string& error() const { return error_; }
 
  private:
-  signals_held held_;
-  std::string path_;
+  temporary_file file_;
   std::string error_;
-  bool exists_ = false;
 };
 
 }  // namespace tivex_program

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 
 #include "columns.h"
@@ -10,6 +11,7 @@ namespace tivex_program {
 struct transaction_kind {
   int message_type;
   std::span<const column> columns;
+  std::uint64_t least_bytes;  // of a document that each takes
 };
 
 }  // namespace tivex_program

@@ -1,10 +1,13 @@
 #include "transactions.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "csv_reader.h"
+#include "document_room.h"
+#include "library_calls.h"
 #include "progress_line.h"
 #include "refused_row.h"
 
@@ -44,14 +47,17 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   progress_line progress(input.size());
   std::vector<tivex_keyvalue_t> list;
   std::uint64_t rows = 0;
+  std::uint64_t taken = 0;
   while (reader.next(row)) {
     progress.show(++rows, input.bytes_read());
     std::optional<row_fault> fault = unsound_cell(row, columns);
     if (!fault) {
       list_cells(row, columns, list);
-      if (tivex_add(message, list.data()) == 1) {
+      if (add_transaction(message, list.data())) {
         probe.add(row, columns, faults);
-        continue;
+        // Otherwise it would show only when all is read and nearly all is written.
+        if (std::max(++taken * format.kind.least_bytes, probe.bytes()) < longest_document) continue;
+        return faults.add("too many transactions for one document (at most 4 GiB)");
       }
       fault = faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
     }

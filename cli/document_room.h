@@ -1,0 +1,31 @@
+// How much one document holds.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+
+namespace tivex_program {
+
+// The library writes documents below this size only.
+inline constexpr std::uint64_t longest_document = std::uint64_t{1} << 32;
+
+// What each transaction takes at least: 291 bytes with an IBAN of 15 characters, an
+// identifier of one and nothing else; 423 with a BIC of 8 under the oldest rulebook.
+inline constexpr std::uint64_t least_credit_transfer = 290;
+inline constexpr std::uint64_t least_direct_debit = 420;
+
+// The bytes of a document that grow with its transactions: those of its payment blocks
+// from the first transaction on.
+constexpr std::uint64_t transaction_bytes(std::string_view document) {
+  std::uint64_t bytes = 0;
+  for (std::size_t start = 0; (start = document.find("TxInf>")) != std::string_view::npos;) {
+    document.remove_prefix(start);
+    const std::size_t length = std::min(document.find("</PmtInf>"), document.size());
+    bytes += length;
+    document.remove_prefix(length);
+  }
+  return bytes;
+}
+
+}  // namespace tivex_program

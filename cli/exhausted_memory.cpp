@@ -1,0 +1,47 @@
+#include "exhausted_memory.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <exception>
+#include <new>
+#include <string_view>
+
+#include "exit_status.h"
+
+namespace tivex_program {
+namespace {
+
+const char* file_to_remove = nullptr;
+
+// Where no exception is under way, there was no memory for one.
+[[noreturn]] void on_terminate() {
+  if (std::current_exception() == nullptr) end_for_want_of_memory();
+  std::abort();
+}
+
+// Static objects, those of the library for arguments too, take memory before main.
+[[gnu::constructor(101)]] void watch_memory() {
+  std::set_new_handler(end_for_want_of_memory);
+  std::set_terminate(on_terminate);
+}
+
+}  // namespace
+
+void end_for_want_of_memory() {
+  constexpr std::string_view text = "Out of memory\n";
+  if (file_to_remove != nullptr) ::unlink(file_to_remove);
+  [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
+  ::_exit(exit_failure);
+}
+
+void require_memory(std::size_t bytes) {
+  // Asked for without the compiler seeing that it is not used.
+  void* const volatile memory = std::malloc(bytes);
+  if (memory == nullptr) end_for_want_of_memory();
+  std::free(memory);
+}
+
+void remove_when_memory_ends(const char* name) { file_to_remove = name; }
+
+}  // namespace tivex_program

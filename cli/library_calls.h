@@ -1,0 +1,24 @@
+// The library's calls as the program makes them: what fails for want of memory ends
+// the program.
+#pragma once
+
+#include <tivex.h>
+
+#include <string>
+
+#include "handles.h"
+
+namespace tivex_program {
+
+// Makes an empty message.
+message_handle new_message(int type);
+
+// As tivex_add and tivex_setIBAN, with the memory that they need.
+bool add_transaction(tivex_t* message, const tivex_keyvalue_t* list);
+bool set_iban(tivex_t* message, const std::string& iban);
+
+// The reason of the latest refusal.
+std::string library_error(const tivex_t* message);
+std::string library_error(const tivex_stmt_parser_t* parser);
+
+}  // namespace tivex_program

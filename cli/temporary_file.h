@@ -1,0 +1,48 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "descriptor.h"
+#include "signals_held.h"
+
+namespace tivex_program {
+
+// A file that its owner alone can read, of which nothing stays unless it is given a
+// name. Where the system allows it has none before, so that not even a killed program
+// leaves it behind; elsewhere the signals that can be held back are, as long as it lives.
+class temporary_file {
+ public:
+  // In a folder: "" is the current one, other names end with a slash. Whether there is
+  // a file tells the first call of `write`.
+  explicit temporary_file(std::string folder);
+  ~temporary_file();
+  temporary_file(const temporary_file&) = delete;
+  temporary_file& operator=(const temporary_file&) = delete;
+
+  // The name to open it by meanwhile.
+  const std::string& path() const { return path_; }
+  // False, with the reason in errno, when not all was written.
+  bool write(std::string_view text) const { return file_ && file_.write_all(text); }
+  // Makes it the file of that name, a whole path into the folder: the name leads to the
+  // old file or the new one at every moment. False, with the reason in errno, when the
+  // old one stays.
+  bool take_name(const std::string& target, mode_t mode);
+
+ private:
+  bool link_as(const std::string& target) const;
+  bool rename_to(const std::string& target);
+  bool sync_folder() const;
+  const char* folder_name() const { return folder_.empty() ? "." : folder_.c_str(); }
+
+  std::string folder_;
+  std::string path_;
+  descriptor file_;
+  std::optional<signals_held> held_;
+  bool named_ = false;
+};
+
+}  // namespace tivex_program
