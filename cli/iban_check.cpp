@@ -28,7 +28,7 @@ prints
 std::string iban_fault(tivex_t* scratch, const std::string& iban) {
   // The library would see a text with a NUL byte up to it only.
   std::string fault = text_fault(iban);
-  if (!fault.empty() || set_iban(scratch, iban)) return fault;
+  if (!fault.empty() || tivex_setIBAN(scratch, iban.c_str()) == 1) return fault;
   const std::string reason = library_error(scratch);
   // What follows the reason repeats the IBAN.
   return reason.substr(0, reason.find(" ("));

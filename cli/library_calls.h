@@ -13,9 +13,8 @@ namespace tivex_program {
 // Makes an empty message.
 message_handle new_message(int type);
 
-// As tivex_add and tivex_setIBAN, with the memory that they need.
+// As tivex_add, with the memory that it needs.
 bool add_transaction(tivex_t* message, const tivex_keyvalue_t* list);
-bool set_iban(tivex_t* message, const std::string& iban);
 
 // The reason of the latest refusal.
 std::string library_error(const tivex_t* message);

@@ -10,7 +10,6 @@
 #include "credit_transfer.h"
 #include "diagnostics.h"
 #include "direct_debit.h"
-#include "exhausted_memory.h"
 #include "exit_status.h"
 #include "iban_check.h"
 #include "iban_convert.h"
@@ -19,10 +18,6 @@
 
 namespace tivex_program {
 namespace {
-
-// What the arguments and the library's patterns take at most. The C library may damage
-// its heap when memory ends while it compiles a pattern.
-constexpr std::size_t memory_of_a_start = std::size_t{2} << 20;
 
 int run(int argument_count, char** arguments) {
   int exit_status = exit_success;
@@ -66,7 +61,6 @@ int main(int argument_count, char** arguments) {
   // A write that fails is reported, and what it leaves behind is removed.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
-  tivex_program::require_memory(tivex_program::memory_of_a_start);
   try {
     return tivex_program::run(argument_count, arguments);
   } catch (const std::exception& error) {

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 #include <ctime>
 #include <optional>
 #include <string_view>
@@ -23,6 +24,7 @@ std::atomic<std::size_t> allocations_left = 0;  // until one fails; 0: none will
 std::atomic<bool> all_later_fail = false;
 std::atomic<bool> failure_happened = false;
 std::optional<std::time_t> clock_moment;
+std::time_t clock_step = 0;
 std::optional<unsigned> process_id;
 file_control* files = nullptr;
 std::string watched_text;
@@ -40,6 +42,13 @@ bool status_fails() {
   if (files == nullptr || files->status_error == 0) return false;
   errno = files->status_error;
   return true;
+}
+
+// What a test itself has left in released memory must not be found in a block.
+void* without_old_content(void* block) {
+  if (block != nullptr && !watched_text.empty())
+    std::memset(block, 0xA5, malloc_usable_size(block));
+  return block;
 }
 
 void look_at(void* block) {
@@ -76,6 +85,12 @@ fixed_clock::~fixed_clock() {
   tzset();
 }
 
+ticking_clock::ticking_clock(int year, int month, int day, int hour, int minute, int second)
+    : fixed_clock(year, month, day, hour, minute, second) {
+  clock_step = 1;
+}
+ticking_clock::~ticking_clock() { clock_step = 0; }
+
 fixed_process_id::fixed_process_id(unsigned id) { process_id = id; }
 fixed_process_id::~fixed_process_id() { process_id.reset(); }
 
@@ -109,7 +124,9 @@ ssize_t __real_read(int descriptor, void* buffer, std::size_t size);
 [[gnu::weak]] int __real_fstat(int descriptor, struct stat* status);
 [[gnu::weak]] int __real_fstat64(int descriptor, struct stat64* status);
 
-void* __wrap_malloc(std::size_t size) { return allocation_fails() ? nullptr : __real_malloc(size); }
+void* __wrap_malloc(std::size_t size) {
+  return allocation_fails() ? nullptr : without_old_content(__real_malloc(size));
+}
 
 void* __wrap_calloc(std::size_t count, std::size_t size) {
   return allocation_fails() ? nullptr : __real_calloc(count, size);
@@ -126,6 +143,7 @@ void __wrap_free(void* block) {
 
 std::time_t __wrap_time(std::time_t* moment) {
   const std::time_t now = clock_moment ? *clock_moment : __real_time(nullptr);
+  if (clock_moment) *clock_moment += clock_step;
   if (moment != nullptr) *moment = now;
   return now;
 }

@@ -23,6 +23,12 @@ struct fixed_clock {
   ~fixed_clock();
 };
 
+// The clock goes on by a second whenever it is read.
+struct ticking_clock : fixed_clock {
+  ticking_clock(int year, int month, int day, int hour, int minute, int second);
+  ~ticking_clock();
+};
+
 struct fixed_process_id {
   explicit fixed_process_id(unsigned id);
   ~fixed_process_id();

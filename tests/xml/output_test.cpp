@@ -133,3 +133,44 @@ TEST(DocumentStamp, HoldsAnIdentifierThatStaysAndATimeThatDoesNot) {
     EXPECT_EQ(msgid_counter, counter + 1);
   }
 }
+
+TEST(DocumentStamp, IsOfOneReadingOfTheClock) {
+  for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
+    const message_ptr msg = with_header(new_message(type));
+    ASSERT_EQ(add(msg), 1);
+    ASSERT_EQ(tivex_setDate(msg.get(), "2026-11-30"), 1);
+    const runtime_control::ticking_clock clock(2026, 11, 23, 10, 20, 30);
+    const std::string document = document_of(msg);
+    EXPECT_NE(document.find("<MsgId>SEPA-20261123102030-"), document.npos) << document;
+    EXPECT_NE(document.find("<CreDtTm>2026-11-23T10:20:30Z<"), document.npos) << document;
+  }
+}
+
+// The zone is changed behind the C library's back, as a host may.
+TEST(DocumentStamp, FollowsLocalTimeWhereverTheHostIs) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"JST-9", "2026-11-24"}, {"UTC", "2026-11-23"}, {"LINT-14", "2026-11-24"}};
+  const runtime_control::fixed_clock clock(2026, 11, 23, 23, 30);
+  for (const auto& [zone, date] : rows) {
+    ASSERT_EQ(setenv("TZ", zone, 1), 0);
+    const message_ptr msg = new_message(TIVEX_CREDIT_TRANSFER);
+    ASSERT_EQ(add(msg), 1);
+    const std::string document = document_of(msg);
+    EXPECT_NE(document.find(">" + std::string(date) + "<"), document.npos) << zone;
+    EXPECT_NE(document.find("<CreDtTm>2026-11-23T23:30:00Z<"), document.npos) << zone;
+  }
+}
+
+TEST(DocumentStamp, IsNotDrawnByADirectDebitThatIsRefused) {
+  const message_ptr msg = new_message(TIVEX_DIRECT_DEBIT, "DE-2.9");
+  const std::uint32_t drawn = msgid_counter;
+  EXPECT_EQ(document_of(msg), "");
+  const message_ptr full = with_header(new_message(TIVEX_DIRECT_DEBIT, "DE-2.9"));
+  ASSERT_TRUE(add(full) == 1 && tivex_setDDType(full.get(), TIVEX_DD_COR1) == 1);
+  for (const char* const rulebook : {"DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7"}) {
+    ASSERT_EQ(tivex_init(TIVEX_OPTION_RULEBOOK, rulebook), 1);
+    EXPECT_EQ(document_of(full), "") << rulebook;
+    EXPECT_EQ(error_of(full), "Unknown/unsupported LocalInstrumentCode (setDDType)");
+  }
+  EXPECT_EQ(msgid_counter, drawn);
+}

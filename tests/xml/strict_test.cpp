@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <set>
 
 #include "support/messages.h"
 #include "support/runtime_control.h"
@@ -98,13 +99,64 @@ TEST(Strict, WritesWhatTheSchemaAcceptsOrSaysWhyNot) {
   }
 }
 
-// The prescribed sum, of binary fractions, is a cent off here.
+// The prescribed sum, of binary fractions, is a cent off here; cents that were divided by
+// 100 rather than multiplied by 0.01 would add up otherwise in the second row.
 TEST(Strict, SumsAreWhatTheAmountsAddUpTo) {
-  const message_ptr msg = make(TIVEX_CREDIT_TRANSFER, "DE-3.7", "none");
-  for (int left = 692; left > 0; --left) add_complete(msg, "amount=999999999.99");
-  for (const auto& [strict, sum] : {std::pair(0, "691999999993.07"), {1, "691999999993.08"}}) {
-    ASSERT_EQ(tivex_setStrict(msg.get(), static_cast<unsigned char>(strict)), 1);
-    const std::string element = std::string("<CtrlSum>") + sum + "</CtrlSum>";
-    EXPECT_EQ(split(document_of(msg), element).size(), 3u) << "of the message and of its block";
+  const struct {
+    int count;
+    const char* amount;
+    const char* sums[2];  // prescribed, strict
+  } rows[] = {{692, "amount=999999999.99", {"691999999993.07", "691999999993.08"}},
+              {760, "amount=955529866.17", {"726202698289.21", "726202698289.20"}}};
+  for (const auto& [count, amount, sums] : rows) {
+    const message_ptr msg = make(TIVEX_CREDIT_TRANSFER, "DE-3.7", "none");
+    for (int left = count; left > 0; --left) add_complete(msg, amount);
+    for (const int strict : {0, 1}) {
+      ASSERT_EQ(tivex_setStrict(msg.get(), static_cast<unsigned char>(strict)), 1);
+      const std::string element = std::string("<CtrlSum>") + sums[strict] + "</CtrlSum>";
+      EXPECT_EQ(split(document_of(msg), element).size(), 3u) << "of the message and of its block";
+    }
   }
+}
+
+TEST(Strict, LeavesRoomForTheNumbersOfManyBlocks) {
+  const message_ptr msg = make(TIVEX_CREDIT_TRANSFER, "DE-3.7", "setMessageId 31*m // none");
+  ASSERT_EQ(tivex_setStrict(msg.get(), 1), 1);
+  for (int block = 1; block <= 100; ++block) {
+    add_complete(msg, "date=" + std::to_string(2000 + block) + "-01-01");
+    EXPECT_EQ(document_of(msg).empty(), block == 100) << block;
+  }
+  EXPECT_EQ(error_of(msg),
+            "message: message id above 30 bytes, payment ids above 35 (not allowed by "
+            "pain.001.001.09)");
+}
+
+// Each value whose copy fails, as tivex_add may return 1 all the same.
+TEST(Strict, RefusesAMessageThatHasLostAValue) {
+  const std::string given = "ref=r ; id=E ; addrCC=AT ; addrTown=Wien ; date=2027-01-01 ; name=Eva";
+  std::set<std::string> lost;
+  for (std::size_t n = 1;; ++n) {
+    const message_ptr msg = make(TIVEX_CREDIT_TRANSFER, "DE-3.7", "tx // tx");
+    ASSERT_EQ(tivex_setStrict(msg.get(), 1), 1);
+    int added = 0;
+    bool failed = false;
+    {
+      const runtime_control::failing_allocation failing(n);
+      added = call(msg, "add+", given.c_str());
+      failed = failing.happened();
+    }
+    if (!failed) break;
+    if (added == 0) continue;
+    msg->error = nullptr;
+    const std::string document = document_of(msg);
+    const std::string error = error_of(msg);
+    EXPECT_TRUE(error.starts_with("transaction 3: ") && error.ends_with(" lost (out of memory)"))
+        << error;
+    EXPECT_EQ(document, "");
+    lost.insert(split(error, " ").at(2));
+    ASSERT_EQ(tivex_setStrict(msg.get(), 0), 1);
+    EXPECT_NE(document_of(msg), "") << "what there is";
+  }
+  EXPECT_EQ(lost,
+            (std::set<std::string>{"bic", "ref", "id", "addrCC", "addrTown", "date", "name"}));
 }
