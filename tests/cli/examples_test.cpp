@@ -86,8 +86,8 @@ void expect_agreement(const std::string& command, const std::string& file,
 constexpr const char* validate = R"sh(
     version=$(sed -n 's/.*:xsd:\(pain[0-9.]*\)".*/\1/p' x.xml)
     case $version in
-      *.001.09 | *.001.08) subset=_GBIC_4 ;;
-      *.001.*) subset=_GBIC ;;
+      pain.001.001.09 | pain.008.001.08) subset=_GBIC_4 ;;
+      pain.001.001.03 | pain.008.001.02) subset=_GBIC ;;
       *) subset= ;;
     esac
     files=
