@@ -167,9 +167,9 @@ TEST(DocumentStamp, IsNotDrawnByADirectDebitThatIsRefused) {
   EXPECT_EQ(document_of(msg), "");
   const message_ptr full = with_header(new_message(TIVEX_DIRECT_DEBIT, "DE-2.9"));
   ASSERT_TRUE(add(full) == 1 && tivex_setDDType(full.get(), TIVEX_DD_COR1) == 1);
-  for (const char* const rulebook : {"DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7"}) {
-    ASSERT_EQ(tivex_init(TIVEX_OPTION_RULEBOOK, rulebook), 1);
-    EXPECT_EQ(document_of(full), "") << rulebook;
+  for (const char* const later : {"DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7"}) {
+    ASSERT_EQ(tivex_init(TIVEX_OPTION_RULEBOOK, later), 1);
+    EXPECT_EQ(document_of(full), "") << later;
     EXPECT_EQ(error_of(full), "Unknown/unsupported LocalInstrumentCode (setDDType)");
   }
   EXPECT_EQ(msgid_counter, drawn);
