@@ -661,7 +661,9 @@ TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
  *
  * format: TIVEX_FORMAT_MT940.
  * path:   the file, in the encoding of the system. Lines end with CR LF; a
- *         statement begins with CR LF and ":20:".
+ *         statement begins with CR LF and ":20:". Opening does not wait for a pipe's
+ *         writer, but while another process gives up a lease on the file, for which
+ *         the system bounds the time.
  *
  * What does not fit the format ends a statement and is no error; a file without any
  * statement is read successfully.
