@@ -8,6 +8,11 @@
 
 #include "support/messages.h"
 
+#if defined(__SANITIZE_THREAD__)
+// The C library's own lock around the time zone is not seen by the sanitizer.
+extern "C" const char* __tsan_default_suppressions() { return "race:tzset_internal\n"; }
+#endif
+
 namespace {
 
 template <class work>
