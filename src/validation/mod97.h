@@ -17,9 +17,9 @@ class mod97_number {
   constexpr bool append(char c) {
     const char upper = to_upper(c);
     if (is_digit(c)) {
-      append_digits(10, static_cast<std::uint64_t>(c - '0'));
+      append_digits(10, static_cast<unsigned char>(c - '0'));
     } else if (is_upper(upper)) {
-      append_digits(100, static_cast<std::uint64_t>(upper - 'A' + 10));
+      append_digits(100, static_cast<unsigned char>(upper - 'A' + 10));
     } else {
       return false;
     }

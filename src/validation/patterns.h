@@ -14,7 +14,8 @@ namespace tivex {
 class character_class {
  public:
   constexpr void add(char first, char last) {
-    for (int c = first; c <= last; ++c) bits_[place_of(c)] |= bit_of(c);
+    for (int c = static_cast<unsigned char>(first); c <= static_cast<unsigned char>(last); ++c)
+      bits_[place_of(c)] |= bit_of(c);
   }
   constexpr bool has(char c) const {
     const auto code = static_cast<unsigned char>(c);
