@@ -89,7 +89,7 @@ const char* form_fault(const char* iban, std::size_t country) {
     const bool right_length = std::strlen(iban) == iban_country_table[country].length;
     return right_length ? "Invalid IBAN format" : "Wrong IBAN length";
   }
-  number.append(power_of_head, head);
+  number.append(head, power_of_head);
   return number.remainder() == 1 ? nullptr : "Invalid IBAN checksum";
 }
 

@@ -26,8 +26,9 @@ class mod97_number {
     return true;
   }
 
-  // Puts another number of so many digits, ten to their number, behind this one.
-  constexpr void append(std::uint64_t power_of_ten, const mod97_number& behind) {
+  // Puts another number behind this one; the power of ten has as many zeros as that has
+  // digits.
+  constexpr void append(const mod97_number& behind, std::uint64_t power_of_ten) {
     value_ = (value_ % 97) * power_of_ten + behind.value_ % 97;
   }
 
