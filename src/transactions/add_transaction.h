@@ -25,9 +25,11 @@ struct list_rules {
 };
 
 template <class record>
-const key_rule<record>* find_key(std::span<const key_rule<record>> keys, const char* key) {
-  for (const key_rule<record>& row : keys) {
-    if (equal_ignoring_case(key, row.key)) return &row;
+const key_rule<record>* find_key(const list_rules<record>& rules, const char* key) {
+  for (const auto keys : {rules.shared_keys, rules.own_keys}) {
+    for (const key_rule<record>& row : keys) {
+      if (equal_ignoring_case(key, row.key)) return &row;
+    }
   }
   return nullptr;
 }
@@ -39,10 +41,8 @@ bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
     const field_outcome outcome = field_table_set(msg, target, entry, structured_address_fields);
     if (outcome != field_outcome::unknown_key) return outcome == field_outcome::stored;
   }
-  for (const auto keys : {rules.shared_keys, rules.own_keys}) {
-    if (const key_rule<record>* const row = find_key(keys, entry.key)) {
-      return row->accept(msg, target, entry.value);
-    }
+  if (const key_rule<record>* const row = find_key(rules, entry.key)) {
+    return row->accept(msg, target, entry.value);
   }
   return rules.accept_unknown(msg, entry.key);
 }
@@ -56,10 +56,8 @@ const char* find_lost_value(const record& added, const tivex_keyvalue_t* list,
       const field_row* const row = find_field(structured_address_fields, list->key);
       if (row != nullptr && !(added.*row->destination)) return row->key;
     }
-    for (const auto keys : {rules.shared_keys, rules.own_keys}) {
-      const key_rule<record>* const row = find_key(keys, list->key);
-      if (row != nullptr && row->field != nullptr && !(added.*row->field)) return row->key;
-    }
+    const key_rule<record>* const row = find_key(rules, list->key);
+    if (row != nullptr && row->field != nullptr && !(added.*row->field)) return row->key;
   }
   return nullptr;
 }

@@ -46,14 +46,18 @@ static_assert([] {
   return true;
 }());
 
+constexpr std::size_t place_of_code(char first, char second) {
+  return static_cast<std::size_t>(first - 'A') * letter_count +
+         static_cast<std::size_t>(second - 'A');
+}
+
 // Rows by the two letters of the country.
 constexpr auto rows_by_code = [] {
   std::array<std::uint8_t, letter_count* letter_count> rows = {};
   rows.fill(no_country);
   for (std::size_t row = country_count; row-- > 0;) {
     const char* const code = iban_country_table[row].code;
-    rows[static_cast<std::size_t>(code[0] - 'A') * letter_count +
-         static_cast<std::size_t>(code[1] - 'A')] = static_cast<std::uint8_t>(row);
+    rows[place_of_code(code[0], code[1])] = static_cast<std::uint8_t>(row);
   }
   return rows;
 }();
@@ -65,8 +69,7 @@ std::size_t find_country(const char* iban) {
   if (!is_upper(first)) return no_country;
   const char second = to_upper(iban[1]);
   if (!is_upper(second)) return no_country;
-  return rows_by_code[static_cast<std::size_t>(first - 'A') * letter_count +
-                      static_cast<std::size_t>(second - 'A')];
+  return rows_by_code[place_of_code(first, second)];
 }
 
 // Walks once over the text: its characters, its length and its checksum.
