@@ -18,6 +18,10 @@ class normalised_account {
 
   // At most ten characters, of which those of the sub-account come last.
   explicit normalised_account(std::string_view account, std::string_view sub_account = "") {
+    if (account.size() == width) {  // as in an IBAN: two instructions
+      std::memcpy(text_, account.data(), width);
+      return;
+    }
     std::memset(text_, '0', width);
     const std::size_t account_end = width - sub_account.size();
     std::memcpy(text_ + account_end - account.size(), account.data(), account.size());

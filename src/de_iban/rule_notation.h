@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <span>
 
+#include "de_account/account_check.h"
 #include "de_account/method_notation.h"
 #include "de_iban/rule_input.h"
 #include "de_iban/table_rows.h"
@@ -66,11 +67,13 @@ void bank_code_becomes(rule_input& input) {
 // How an account that was replaced is checked again: by the bank's method without
 // the bank code.
 inline void check_again(rule_input& input) {
-  input.check_result = static_cast<std::int8_t>(tivex_account_check(input.account, input.method));
+  input.check_result =
+      static_cast<std::int8_t>(check_digits::check_account(input.digits(), nullptr, input.method));
 }
 // What is not plainly valid counts as not checked.
 inline void check_again_yes_or_no(rule_input& input) {
-  input.check_result = tivex_account_check(input.account, input.method) == 1 ? 1 : 0;
+  const bool valid = check_account(input.digits(), nullptr, input.method) == check_digits::VALID;
+  input.check_result = valid ? 1 : 0;
 }
 inline void count_as_valid(rule_input& input) { input.check_result = 1; }
 

@@ -79,7 +79,9 @@ int tivex_bic_getBank(const char* bic, tivex_bank_info_t** info) {
 }
 
 int tivex_bankid_getMethod(const char* bank_code) {
-  tivex::bank_record record;
-  if (tivex::directory_find_bank("DE", bank_code, &record) == 0) return tivex::NOT_FOUND;
-  return record.method;
+  tivex::german_bank bank;
+  if (bank_code == nullptr) return tivex::NOT_FOUND;
+  const std::size_t length = strnlen(bank_code, tivex::widest_bank_code + 1);
+  if (!tivex::directory_find_german_bank({bank_code, length}, bank)) return tivex::NOT_FOUND;
+  return bank.method;
 }

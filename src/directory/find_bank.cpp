@@ -1,10 +1,10 @@
 #include "directory/find_bank.h"
 
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <iterator>
 
-#include "directory/directory_data.h"
 #include "directory/directory_hash.h"
 #include "platform/platform.h"
 #include "validation/ascii.h"
@@ -15,18 +15,43 @@ namespace {
 
 // '_', two letters of a country.
 constexpr std::size_t country_prefix_length = 3;
-constexpr std::size_t longest_national_key = country_prefix_length + widest_bank_code;
+constexpr std::size_t german_width = 8;
+constexpr std::size_t alpine_width = 5;
+
+constexpr char separators[] = {field_separator, '\0'};
+constexpr int none = -1;
 
 bool same_country(const char* left, const char* right) {
   return left[0] == right[0] && left[1] == right[1] && left[2] == '\0';
 }
 
-// The directory's record whose key begins with these bytes; null for none.
-const char* find_record(const char* key, std::size_t length) {
-  const int index = directory_hash(key);
-  if (index < 0) return nullptr;
-  const char* const found = directory_records[index];
-  return std::memcmp(found, key, length) == 0 ? found : nullptr;
+// Letters in upper case and digits; 0 for every other character.
+constexpr auto bic_characters = [] {
+  std::array<char, 256> table = {};
+  for (int code = 0; code < 128; ++code) {
+    const char upper = to_upper(static_cast<char>(code));
+    if (is_digit(upper) || is_upper(upper)) table[static_cast<std::size_t>(code)] = upper;
+  }
+  return table;
+}();
+
+// The number of the record whose key begins with these bytes.
+template <std::size_t length>
+int find_record(const char (&key)[length]) {
+  const int index = directory_hash({key, length});
+  return index >= 0 && std::memcmp(directory_records[index], key, length) == 0 ? index : none;
+}
+
+// The number of the record of a bank code, with the zeros that it lacks on its left.
+template <std::size_t width>
+int find_code(const char* listed_under, std::string_view bank_code) {
+  if (bank_code.empty() || bank_code.size() > width) return none;
+  char key[country_prefix_length + width];
+  key[0] = national_mark;
+  std::memcpy(key + 1, listed_under, 2);
+  std::memset(key + country_prefix_length, '0', width);
+  std::memcpy(key + sizeof key - bank_code.size(), bank_code.data(), bank_code.size());
+  return find_record(key);
 }
 
 std::uint8_t byte_at(const char* bytes, std::size_t index) {
@@ -45,28 +70,51 @@ constexpr text_member german_fields[] = {&bank_record::successor, &bank_record::
                                          &bank_record::city,      &bank_record::country};
 constexpr std::size_t german_field_count = std::size(german_fields);
 
-// Copies a record's fields from there on. Returns where the text goes on behind
-// the last field, null when it ends with it.
-const char* copy_fields(bank_record& record, const char* from, bool german) {
+// Where the second version of a German record begins, whose first one begins there.
+const char* second_version(const char* from) {
+  from += german_block_length;
+  for (std::size_t field = 0; field < german_field_count; ++field) {
+    from = std::strchr(from, field_separator) + 1;
+  }
+  return from;
+}
+
+// The version of a German record that holds now.
+const char* current_version(int index) {
+  const char* const first = directory_records[index] + country_prefix_length + german_width;
+  if (!directory_has_second_version(index) || platform::now() < directory_switch_time) {
+    return first;
+  }
+  return second_version(first);
+}
+
+// Copies a version's fields, which begin there.
+void copy_fields(bank_record& record, const char* from, bool german) {
   char* to = record.text;
   // Only German records name a successor.
   for (std::size_t field = german ? 0 : 1; field < german_field_count; ++field) {
     record.*german_fields[field] = to;
     while (*from != field_separator && *from != '\0') *to++ = *from++;
     *to++ = '\0';
-    if (*from++ == '\0') return nullptr;
+    if (*from++ == '\0') return;
   }
-  return from;
 }
 
-// Reads one version of a record, or the only one. Returns where the next one
-// begins, null when there is none.
-const char* read_version(bank_record& record, const char* from, bool german) {
+void read_german_block(const char* block, std::uint8_t& method, std::int32_t& iban_rule) {
+  method = byte_at(block, 1);
+  iban_rule = byte_at(block, 2) << 8 | byte_at(block, 3);
+}
+
+void read_german_record(bank_record& record, int index) {
+  const char* const version = current_version(index);
   clear(record);
-  if (!german) return copy_fields(record, from, german);
-  record.method = byte_at(from, 1);
-  record.iban_rule = byte_at(from, 2) << 8 | byte_at(from, 3);
-  return copy_fields(record, from + german_block_length, german);
+  read_german_block(version, record.method, record.iban_rule);
+  copy_fields(record, version + german_block_length, true);
+}
+
+void read_alpine_record(bank_record& record, int index) {
+  clear(record);
+  copy_fields(record, directory_records[index] + country_prefix_length + alpine_width, false);
 }
 
 void read_bic_record(bank_record& record, const char* from) {
@@ -99,43 +147,50 @@ std::size_t bank_code_width(const char* country) {
 
 int directory_find_bank(const char* country, const char* bank_code, bank_record* record) {
   const std::size_t width = bank_code_width(country);
-  if (width == 0 || bank_code == nullptr || *bank_code == '\0') return 0;
-  const std::size_t length = std::strlen(bank_code);
-  if (length > width) return 0;
-
+  if (width == 0 || bank_code == nullptr) return 0;
+  const bool german = width == german_width;
   const char* const listed_under = same_country(country, "LI") ? "CH" : country;
-  char key[longest_national_key + 1];
-  std::memset(key, '0', sizeof key);
-  key[0] = national_mark;
-  std::memcpy(key + 1, listed_under, 2);
-  const std::size_t key_length = country_prefix_length + width;
-  std::memcpy(key + key_length - length, bank_code, length + 1);
-
-  const char* const found = find_record(key, key_length);
-  if (found == nullptr) return 0;
+  const std::string_view code(bank_code, strnlen(bank_code, width + 1));
+  const int index = german ? find_code<german_width>(listed_under, code)
+                           : find_code<alpine_width>(listed_under, code);
+  if (index == none) return 0;
   if (record == nullptr) return 1;
-  const bool german = same_country(country, "DE");
-  const char* const second_version = read_version(*record, found + key_length, german);
-  if (german && second_version != nullptr && platform::now() >= directory_switch_time) {
-    read_version(*record, second_version, german);
+  if (german) {
+    read_german_record(*record, index);
+  } else {
+    read_alpine_record(*record, index);
   }
   return 1;
 }
 
+bool directory_find_german_bank(std::string_view bank_code, german_bank& bank) {
+  const int index = find_code<german_width>("DE", bank_code);
+  if (index == none) return false;
+  const char* const version = current_version(index);
+  read_german_block(version, bank.method, bank.iban_rule);
+  bank.successor = {};
+  const char* const successor = version + german_block_length;
+  if (*successor != field_separator) {
+    bank.successor = {successor, std::strcspn(successor, separators)};
+  }
+  return true;
+}
+
 int directory_find_bic(const char* bic, bank_record* record) {
   if (bic == nullptr) return 0;
-  char key[] = "________XXX";
-  static_assert(sizeof key == bic_length + 1);
   constexpr std::size_t short_bic_length = 8;
-  const std::size_t length = std::strlen(bic);
+  const std::size_t length = strnlen(bic, bic_length + 1);
   if (length != short_bic_length && length != bic_length) return 0;
-  for (std::size_t index = 0; index < length; ++index) {
-    key[index] = to_upper(bic[index]);
-    if (!is_digit(key[index]) && !is_upper(key[index])) return 0;
+  char key[bic_length];
+  std::memcpy(key, "________XXX", bic_length);
+  bool fits = true;
+  for (std::size_t place = 0; place < length; ++place) {
+    key[place] = bic_characters[static_cast<unsigned char>(bic[place])];
+    fits &= key[place] != '\0';
   }
-  const char* const found = find_record(key, bic_length);
-  if (found == nullptr) return 0;
-  if (record != nullptr) read_bic_record(*record, found);
+  const int index = fits ? find_record(key) : none;
+  if (index == none) return 0;
+  if (record != nullptr) read_bic_record(*record, directory_records[index]);
   return 1;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace tivex {
 
@@ -28,28 +29,29 @@ struct hash_vertices {
 };
 
 // The vertices of a text; false for one that cannot be a key.
-inline bool find_vertices(const hash_tables& tables, const char* key, hash_vertices& result) {
-  std::uint32_t sum1 = 0;
-  std::uint32_t sum2 = 0;
-  std::uint32_t sum3 = 0;
-  std::size_t length = 0;
-  for (; key[length] != '\0'; ++length) {
-    const char character = key[length];
-    if (length == hash_longest_key || character < hash_first_character ||
-        character > hash_last_character) {
-      return false;
-    }
-    const auto index = static_cast<std::size_t>(character - hash_first_character);
-    sum1 += (*tables.weights[0])[length][index];
-    sum2 += (*tables.weights[1])[length][index];
-    sum3 += (*tables.weights[2])[length][index];
+inline bool find_vertices(const hash_tables& tables, std::string_view key, hash_vertices& result) {
+  constexpr auto place_of = [](char c) {
+    return static_cast<unsigned>(static_cast<unsigned char>(c)) - hash_first_character;
+  };
+  if (key.size() < hash_shortest_key || key.size() > hash_longest_key) return false;
+  bool fits = true;
+  for (const char c : key) fits &= place_of(c) <= place_of(hash_last_character);
+  if (!fits) return false;
+  std::uint32_t sums[3] = {};
+  for (std::size_t position = 0; position < key.size(); ++position) {
+    const unsigned place = place_of(key[position]);
+    sums[0] += (*tables.weights[0])[position][place];
+    sums[1] += (*tables.weights[1])[position][place];
+    sums[2] += (*tables.weights[2])[position][place];
   }
-  result = {{sum1 % tables.vertex_count, sum2 % tables.vertex_count, sum3 % tables.vertex_count}};
-  return length >= hash_shortest_key;
+  for (std::size_t table = 0; table < 3; ++table) {
+    result.vertex[table] = sums[table] % tables.vertex_count;
+  }
+  return true;
 }
 
 // The index of the key, some index or a negative number for any other text.
-inline int perfect_hash(const hash_tables& tables, const char* key) {
+inline int perfect_hash(const hash_tables& tables, std::string_view key) {
   hash_vertices at = {};
   if (!find_vertices(tables, key, at)) return -1;
   const std::int32_t sum = tables.vertex_values[at.vertex[2]] + tables.vertex_values[at.vertex[1]] +

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <ctime>
 
 namespace tivex::platform {
@@ -24,7 +25,11 @@ calendar_time utc_calendar(std::time_t moment);
 
 std::uint32_t process_id();
 
-// Overwrites memory with zeros by a call that the compiler cannot remove.
-void wipe(void* memory, std::size_t size);
+// Overwrites memory with zeros; the compiler cannot remove it, for it has to suppose that
+// somebody reads the memory afterwards. Inline: most of what is wiped is a few bytes.
+inline void wipe(void* memory, std::size_t size) {
+  std::memset(memory, 0, size);
+  __asm__ volatile("" : : "r"(memory) : "memory");
+}
 
 }  // namespace tivex::platform

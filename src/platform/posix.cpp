@@ -1,4 +1,3 @@
-#include <string.h>
 #include <unistd.h>
 
 #include "platform/broken_down.h"
@@ -21,7 +20,5 @@ calendar_time utc_calendar(std::time_t moment) {
 }
 
 std::uint32_t process_id() { return static_cast<std::uint32_t>(getpid()); }
-
-void wipe(void* memory, std::size_t size) { explicit_bzero(memory, size); }
 
 }  // namespace tivex::platform

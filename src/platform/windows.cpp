@@ -20,6 +20,4 @@ calendar_time utc_calendar(std::time_t moment) {
 
 std::uint32_t process_id() { return GetCurrentProcessId(); }
 
-void wipe(void* memory, std::size_t size) { SecureZeroMemory(memory, size); }
-
 }  // namespace tivex::platform

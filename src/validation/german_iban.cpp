@@ -1,23 +1,27 @@
 #include "validation/german_iban.h"
 
-#include <cstring>
+#include <cstddef>
 
+#include "de_account/account_check.h"
 #include "directory/find_bank.h"
-#include "tivex.h"
 
 namespace tivex {
 
 const char* german_iban_fault(const char* iban) {
   constexpr std::size_t bank_code_length = 8;
-  char bank_code[bank_code_length + 1] = {};
-  std::memcpy(bank_code, iban + 4, bank_code_length);
-  bank_record bank;
-  if (directory_find_bank("DE", bank_code, &bank) == 0) return "Invalid bank ID (BLZ) in IBAN";
+  constexpr std::size_t account_length = 10;
+  const char* const bank_code = iban + 4;
+  german_bank bank;
+  if (!directory_find_german_bank({bank_code, bank_code_length}, bank)) {
+    return "Invalid bank ID (BLZ) in IBAN";
+  }
 
-  const char* const account = iban + 4 + bank_code_length;
-  const int result = tivex_account_check2(account, bank_code, bank.method);
+  using namespace check_digits;
+  const normalised_account account({bank_code + bank_code_length, account_length});
   // An account that cannot be checked passes.
-  return result == TIVEX_ACCOUNT_INVALID ? "Invalid account number in IBAN" : nullptr;
+  return check_account(account, bank_code, bank.method) == INVALID
+             ? "Invalid account number in IBAN"
+             : nullptr;
 }
 
 }  // namespace tivex

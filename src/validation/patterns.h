@@ -17,6 +17,7 @@ class character_class {
     for (int c = static_cast<unsigned char>(first); c <= static_cast<unsigned char>(last); ++c)
       bits_[place_of(c)] |= bit_of(c);
   }
+  constexpr bool operator==(const character_class&) const = default;
   constexpr bool has(char c) const {
     const auto code = static_cast<unsigned char>(c);
     return code < 128 && (bits_[place_of(code)] & bit_of(code)) != 0;
@@ -57,6 +58,9 @@ struct text_pattern {
   }
 };
 
+// Not defined for the compiler, which stops here.
+void does_not_compile(const char* reason);
+
 // Reads what patterns of fixed form need: ^ and $ at the ends, literals, brackets
 // with characters and ranges, a count in braces, and one group at the end that may
 // be missing. Anything else does not compile.
@@ -80,9 +84,6 @@ class pattern_reader {
   }
 
  private:
-  // Not defined for the compiler, which stops here.
-  static void does_not_compile(const char* reason);
-
   consteval bool at(char c) const { return rest_.starts_with(c); }
   consteval char take() {
     if (rest_.empty()) does_not_compile("unexpected end");

@@ -69,7 +69,7 @@ directory_record german_record(const german_row& first, const german_row* second
   text += '\0';
   // A lookup of the first version copies up to the first NUL, wherever that is.
   check_text(german_file_name, first.line, std::strlen(text.c_str()) + 1, faults);
-  return {key, key + german_block(first) + text};
+  return {key, key + german_block(first) + text, second != nullptr};
 }
 
 std::vector<directory_record> german_records(const std::vector<german_row>& rows,

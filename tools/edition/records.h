@@ -12,6 +12,7 @@ namespace tivex_edition {
 struct directory_record {
   std::string key;
   std::string bytes;  // begins with the key, ends with NUL
+  bool has_second_version = false;
 };
 
 // The records in ascending order of their keys. A record whose text is too long

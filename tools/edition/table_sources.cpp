@@ -52,6 +52,21 @@ class number_lines {
   std::size_t line_length_ = 0;
 };
 
+std::string second_version_source(const std::vector<directory_record>& records) {
+  constexpr std::size_t width = 64;
+  std::string text = "\nconst std::uint64_t directory_second_versions[] = {\n";
+  number_lines words(text);
+  for (std::size_t start = 0; start < records.size(); start += width) {
+    std::uint64_t bits = 0;
+    const std::size_t end = std::min(start + width, records.size());
+    for (std::size_t index = start; index < end; ++index) {
+      if (records[index].has_second_version) bits |= std::uint64_t{1} << (index - start);
+    }
+    words.add(std::to_string(bits) + "u");
+  }
+  return text + "};\n";
+}
+
 std::string records_source(const std::vector<directory_record>& records) {
   std::string bytes;
   std::string pointers;
@@ -69,8 +84,8 @@ std::string records_source(const std::vector<directory_record>& records) {
          "#include \"directory/directory_data.h\"\n\nnamespace tivex {\n\n"
          "namespace {\nalignas(" +
          std::to_string(tivex::record_alignment) + ") constexpr char r[] =\n" + bytes +
-         ";\n}  // namespace\n\nconst char* const directory_records[] = {\n" + pointers +
-         "};\n\n}  // namespace tivex\n";
+         ";\n}  // namespace\n\nconst char* const directory_records[] = {\n" + pointers + "};\n" +
+         second_version_source(records) + "\n}  // namespace tivex\n";
 }
 
 std::string hash_source(const constructed_hash& hash) {
