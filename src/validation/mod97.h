@@ -49,7 +49,7 @@ class mod97_number {
   // Puts a text's number behind this one.
   constexpr void append(std::string_view text) {
     constexpr std::size_t step = 8;
-    for (; text.size() >= step; text.remove_prefix(step)) push(eight(text));
+    for (; text.size() >= step; text.remove_prefix(step)) push(eight(text.data()));
     spelling rest;
     for (const char c : text) rest = rest + spelling_of(c);
     push(rest);
@@ -61,11 +61,11 @@ class mod97_number {
   constexpr int remainder() const { return static_cast<int>(value_); }
 
  private:
-  static constexpr spelling two(std::string_view text) {
+  static constexpr spelling two(const char* text) {
     return spelling_of(text[0]) + spelling_of(text[1]);
   }
-  static constexpr spelling eight(std::string_view text) {
-    return (two(text) + two(text.substr(2))) + (two(text.substr(4)) + two(text.substr(6)));
+  static constexpr spelling eight(const char* text) {
+    return (two(text) + two(text + 2)) + (two(text + 4) + two(text + 6));
   }
 
   constexpr void push(const spelling& behind) {
