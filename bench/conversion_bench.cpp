@@ -1,8 +1,9 @@
-// Time of a conversion from bank code and account to IBAN, beside the lookup and
-// the account check that it contains.
+// Time of a conversion from bank code and account to IBAN, beside the lookup, the
+// account check and the checksum that it contains.
 
 #include <benchmark/benchmark.h>
 
+#include "iban_kernel.h"
 #include "tivex.h"
 
 namespace {
@@ -41,5 +42,15 @@ void account_check_within(benchmark::State& state, const pair& subject) {
 }
 BENCHMARK_CAPTURE(account_check_within, standard_rule, standard);
 BENCHMARK_CAPTURE(account_check_within, slowest_rule, slowest);
+
+void checksum_within(benchmark::State& state, const pair& subject) {
+  char iban[35];
+  tivex_iban_convert("DE", subject.account, subject.bank_code, iban, nullptr);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(iban);
+    benchmark::DoNotOptimize(iban_kernel(iban));
+  }
+}
+BENCHMARK_CAPTURE(checksum_within, standard_rule, standard);
 
 }  // namespace

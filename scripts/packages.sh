@@ -21,3 +21,5 @@ build_packages=(g++ cmake make libcli11-dev libcsv-dev nlohmann-json3-dev)
 test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 git libbenchmark-dev
   libclang-rt-14-dev libgtest-dev libjemalloc2 libmimalloc2.0 libtcmalloc-minimal4 libxml2-dev
   libxml2-utils locales-all pkgconf shellcheck)
+# shellcheck disable=SC2034
+bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrind)
