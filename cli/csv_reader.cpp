@@ -14,6 +14,13 @@ constexpr std::size_t buffer_size = std::size_t{1} << 16;
 constexpr std::size_t longest_row = std::size_t{1} << 16;
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
+// Whether a cell without quotes around it is its own text.
+bool is_bare(std::string_view cell) {
+  const auto is_blank = [](char c) { return c == ' ' || c == '\t'; };
+  return cell.empty() || (!is_blank(cell.front()) && !is_blank(cell.back()) &&
+                          cell.find('"') == std::string_view::npos);
+}
+
 }  // namespace
 
 csv_reader::csv_reader(input_file& input, char delimiter)
@@ -49,8 +56,17 @@ void csv_reader::skip_byte_order_mark() {
 }
 
 void csv_reader::on_cell(void* text, std::size_t length, void* reader) noexcept {
-  const std::string_view cell(static_cast<const char*>(text), length);
-  static_cast<csv_reader*>(reader)->row_->cells.emplace_back(cell);
+  static_cast<csv_reader*>(reader)->add_cell({static_cast<const char*>(text), length});
+}
+
+// Texts of an earlier row keep their memory for this one's.
+void csv_reader::add_cell(std::string_view cell) {
+  if (cells_ < row_->cells.size()) {
+    row_->cells[cells_] = cell;
+  } else {
+    row_->cells.emplace_back(cell);
+  }
+  ++cells_;
 }
 
 void csv_reader::on_row(int, void* reader) noexcept {
@@ -58,14 +74,15 @@ void csv_reader::on_row(int, void* reader) noexcept {
 }
 
 bool csv_reader::next(csv_row& row) {
-  row.cells.clear();
   row.fault.clear();
   row_ = &row;
+  cells_ = 0;
   row_complete_ = false;
   while (!row_complete_) {
     if (position_ == filled_ && !refill()) return finish();
     if (!read_piece()) break;
   }
+  row.cells.resize(cells_);
   row.line = row_line_;
   return true;
 }
@@ -92,6 +109,8 @@ bool csv_reader::read_piece() {
     return true;
   }
 
+  if (!row_open_ && ends_line && read_plain_line({begin, length - 1})) return true;
+
   row_length_ += length;
   const std::size_t parsed = csv_parse(&parser_, begin, length, on_cell, on_row, this);
   // At a line end a row stays open only within a quoted cell.
@@ -107,6 +126,26 @@ bool csv_reader::read_piece() {
                                 " bytes (a quote that is not closed?)");
 }
 
+// Most lines need no parser. Returns false for one that may need it.
+bool csv_reader::read_plain_line(std::string_view line) {
+  if (line.empty()) return false;
+  for (std::size_t at = 0; at <= line.size(); ++at) {
+    const std::size_t quotes = at < line.size() && line[at] == '"' ? 1 : 0;
+    const std::size_t start = at + quotes;
+    const std::size_t stop = std::min(line.find(quotes > 0 ? '"' : delimiter_, start), line.size());
+    const std::string_view cell = line.substr(start, stop - start);
+    at = stop + quotes;
+    const bool ended = at == line.size() || (at < line.size() && line[at] == delimiter_);
+    if (!ended || (quotes == 0 && !is_bare(cell))) {
+      cells_ = 0;
+      return false;
+    }
+    add_cell(cell);
+  }
+  row_complete_ = true;
+  return true;
+}
+
 // A last line needs no line end.
 bool csv_reader::finish() {
   if (csv_fini(&parser_, on_cell, on_row, this) != 0) {
@@ -114,12 +153,13 @@ bool csv_reader::finish() {
     refuse("quoted cell that is not closed");
     row_complete_ = true;
   }
+  row_->cells.resize(cells_);
   row_->line = row_line_;
   return row_complete_;
 }
 
 bool csv_reader::refuse(std::string fault) {
-  row_->cells.clear();
+  cells_ = 0;
   row_->fault = std::move(fault);
   return false;
 }

@@ -11,6 +11,13 @@ namespace {
 bool is_digit(char c) { return '0' <= c && c <= '9'; }
 bool is_capital(char c) { return 'A' <= c && c <= 'Z'; }
 
+// Most texts are plain ones. All bytes are looked at: so the compiler takes many at once.
+bool is_plain(std::string_view value) {
+  bool plain = true;
+  for (const char c : value) plain &= ' ' <= c && c <= '~';
+  return plain;
+}
+
 std::string with_hex(const char* format, char byte) {
   char text[64];
   std::snprintf(text, sizeof text, format, static_cast<unsigned>(static_cast<unsigned char>(byte)));
@@ -20,6 +27,7 @@ std::string with_hex(const char* format, char byte) {
 }  // namespace
 
 std::string text_fault(std::string_view value) {
+  if (is_plain(value)) return {};
   while (!value.empty()) {
     const std::size_t length = utf8_character_length(value);
     if (length == 0) return with_hex("byte 0x%02X is not UTF-8", value[0]);
