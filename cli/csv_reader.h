@@ -37,6 +37,8 @@ class csv_reader {
   void start_parser();
   bool refill();
   void skip_byte_order_mark();
+  void find_line_feed();
+  std::string_view next_piece();
   bool read_piece();
   bool read_plain_line(std::string_view line);
   void add_cell(std::string_view cell);
@@ -49,6 +51,7 @@ class csv_reader {
   std::vector<char> buffer_;
   std::size_t position_ = 0;
   std::size_t filled_ = 0;
+  std::size_t line_feed_ = 0;  // the next one, or `filled_` when the buffer has none
 
   csv_row* row_ = nullptr;      // that the call of next() fills
   std::size_t cells_ = 0;       // read of it; behind them stand those of an earlier row

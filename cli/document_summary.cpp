@@ -1,6 +1,8 @@
 #include "document_summary.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 
 #include "labelled_line.h"
 
@@ -16,9 +18,10 @@ std::string_view between(std::string_view text, std::string_view start, std::str
 }
 
 std::size_t count(std::string_view text, std::string_view part) {
+  const std::boyer_moore_horspool_searcher next(part.begin(), part.end());
   std::size_t found = 0;
-  for (std::size_t at = 0; (at = text.find(part, at)) != std::string_view::npos;
-       at += part.size()) {
+  for (auto at = text.begin(); (at = std::search(at, text.end(), next)) != text.end();
+       at += static_cast<std::ptrdiff_t>(part.size())) {
     ++found;
   }
   return found;
