@@ -21,9 +21,9 @@ bool are_printable(const char* bytes) {
   std::uint64_t word = 0;
   std::memcpy(&word, bytes, sizeof word);
   const std::uint64_t deleted = word ^ each * 0x7F;
-  // The highest bit of a byte tells: one below a blank borrows, as does one that is 0x7F.
-  const std::uint64_t borrowed = (word - each * ' ') | (deleted - each);
-  return ((borrowed | word) & each * 0x80) == 0;
+  // The highest bit of a byte tells: one below a blank borrows, as does one that is 0x7F;
+  // of those from 0x80 on each keeps its bit in one of the two.
+  return (((word - each * ' ') | (deleted - each)) & each * 0x80) == 0;
 }
 
 // Most texts are printable ASCII, which eight bytes at a time tell.
@@ -68,7 +68,7 @@ std::string text_fault(std::string_view value) {
 
 std::string unescaped_fault(std::string_view value) {
   const auto is_markup = [](char c) { return c == '<' || c == '>' || c == '&'; };
-  const auto found = std::ranges::find_if(value, is_markup);
+  const auto* const found = std::ranges::find_if(value, is_markup);
   if (found == value.end()) return text_fault(value);
   return std::string("character '") + *found + "' not allowed";
 }
