@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "input_file.h"
@@ -36,7 +37,11 @@ class csv_reader {
   void start_parser();
   bool refill();
   void skip_byte_order_mark();
+  void find_line_feed();
+  std::string_view next_piece();
   bool read_piece();
+  bool read_plain_line(std::string_view line);
+  void add_cell(std::string_view cell);
   bool finish();
   bool refuse(std::string fault);
 
@@ -46,8 +51,10 @@ class csv_reader {
   std::vector<char> buffer_;
   std::size_t position_ = 0;
   std::size_t filled_ = 0;
+  std::size_t line_feed_ = 0;  // the next one, or `filled_` when the buffer has none
 
   csv_row* row_ = nullptr;      // that the call of next() fills
+  std::size_t cells_ = 0;       // read of it; behind them stand those of an earlier row
   bool row_complete_ = false;   // the parser has passed the row's end
   bool row_open_ = false;       // the row goes on in the next piece
   bool skips_line_ = false;     // the rest of a malformed line is left out

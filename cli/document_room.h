@@ -15,6 +15,10 @@ inline constexpr std::uint64_t longest_document = std::uint64_t{1} << 32;
 inline constexpr std::uint64_t least_credit_transfer = 290;
 inline constexpr std::uint64_t least_direct_debit = 420;
 
+// The transactions of a file up to this size stay below that: none takes 32 times as much in
+// a document as in the file, where the shortest has 18 bytes, or 23 of a debit.
+inline constexpr std::uint64_t roomy_file = longest_document / 32;
+
 // The bytes of a document that grow with its transactions: those of its payment blocks
 // from the first transaction on.
 constexpr std::uint64_t transaction_bytes(std::string_view document) {

@@ -15,11 +15,13 @@ std::string_view between(std::string_view text, std::string_view start, std::str
   return text.substr(0, text.find(end));
 }
 
-std::size_t count(std::string_view text, std::string_view part) {
+// Counts from the name: of its first letter there are far fewer than of brackets.
+std::size_t count_blocks(std::string_view document) {
+  constexpr std::string_view name = "PmtInf>";
   std::size_t found = 0;
-  for (std::size_t at = 0; (at = text.find(part, at)) != std::string_view::npos;
-       at += part.size()) {
-    ++found;
+  for (std::size_t at = 0; (at = document.find(name, at)) != std::string_view::npos;
+       at += name.size()) {
+    if (document.substr(0, at).ends_with('<')) ++found;
   }
   return found;
 }
@@ -35,7 +37,7 @@ std::vector<std::string> document_summary(std::string_view document, const docum
   const char* const subset = form.rulebook.starts_with("DE") ? " (German subset)" : "";
   return {labelled_line("transactions", std::string(transactions)),
           labelled_line("sum", std::string(sum) + " EUR"),
-          labelled_line("payment blocks", std::to_string(count(document, "<PmtInf>"))),
+          labelled_line("payment blocks", std::to_string(count_blocks(document))),
           labelled_line("rulebook", form.rulebook + " (" + schema + ")"),
           labelled_line("schema", form.strict ? "meets " + schema + subset : "not checked"),
           labelled_line("file", file)};

@@ -17,6 +17,7 @@ input_file::input_file(std::string name) : name_(std::move(name)) {
     fail();
   } else if (S_ISREG(status.st_mode)) {
     size_ = static_cast<std::uint64_t>(status.st_size);
+    start_ = ::lseek(file_.number(), 0, SEEK_CUR);
   }
 }
 
@@ -32,6 +33,12 @@ std::size_t input_file::read(char* buffer, std::size_t size) {
     fail();
     return 0;
   }
+}
+
+void input_file::start_again() {
+  error_.clear();
+  bytes_read_ = 0;
+  if (::lseek(file_.number(), start_, SEEK_SET) < 0) fail();
 }
 
 void input_file::fail() { error_ = std::strerror(errno); }

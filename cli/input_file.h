@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -9,7 +11,7 @@
 
 namespace tivex_program {
 
-// A file that is read once from its start to its end; "-" is standard input.
+// A file that is read from its start to its end; "-" is standard input.
 class input_file {
  public:
   explicit input_file(std::string name);
@@ -22,6 +24,8 @@ class input_file {
   std::uint64_t bytes_read() const { return bytes_read_; }
   // The size, known for regular files only.
   std::optional<std::uint64_t> size() const { return size_; }
+  // Reads a regular file once more, as if nothing had been read of it.
+  void start_again();
 
  private:
   void fail();
@@ -31,6 +35,7 @@ class input_file {
   descriptor file_;
   std::uint64_t bytes_read_ = 0;
   std::optional<std::uint64_t> size_;
+  off_t start_ = 0;  // standard input may be handed over in its middle
 };
 
 }  // namespace tivex_program

@@ -32,7 +32,8 @@ bool loses_address(const csv_row& row, const std::vector<const column*>& columns
 
 }  // namespace
 
-schema_probe::schema_probe(payment_header header) : header_(std::move(header)) {
+schema_probe::schema_probe(payment_header header, probing extent)
+    : header_(std::move(header)), extent_(extent) {
   header_.values.insert(header_.values.begin(), {&probe_id, "probe"});
 }
 
@@ -54,6 +55,7 @@ void schema_probe::add(csv_row& row, const std::vector<const column*>& columns,
     finish(columns, faults);
     return faults.add(row.line, "addrTown", "missing (the address would not be written)");
   }
+  if (extent_ == probing::first_fault) return;
   batch_.push_back(std::exchange(row, {}));
   if (batch_.size() == batch_size) finish(columns, faults);
 }

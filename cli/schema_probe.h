@@ -12,6 +12,13 @@
 
 namespace tivex_program {
 
+// How far the rows are looked at.
+enum class probing {
+  // Up to the first fault, and not for what the schema refuses: a document of all tells.
+  first_fault,
+  every_fault,
+};
+
 // Finds each row that the schema refuses, or that would lose its address; the library names the
 // first one of a message only. Messages that are not strict are not looked at. Rows are tried in
 // batches: one document tells whether all of a batch are accepted, and only when they are not is
@@ -19,7 +26,7 @@ namespace tivex_program {
 class schema_probe {
  public:
   // The header must have been set once without a fault.
-  explicit schema_probe(payment_header header);
+  schema_probe(payment_header header, probing extent);
 
   // What the schema refuses of the header, with the option; empty when nothing.
   std::string header_fault() const;
@@ -29,6 +36,11 @@ class schema_probe {
   void add(csv_row& row, const std::vector<const column*>& columns, fault_report& faults);
   void finish(const std::vector<const column*>& columns, fault_report& faults);
 
+  // Whether a fault among those reported so far ends the reading.
+  bool is_done(const fault_report& faults) const {
+    return extent_ == probing::first_fault && !faults.empty();
+  }
+
   // What the transactions looked at so far take in documents, without faults.
   std::uint64_t bytes() const { return bytes_; }
 
@@ -37,6 +49,7 @@ class schema_probe {
   std::string refusal(std::span<const csv_row> rows, const std::vector<const column*>& columns);
 
   payment_header header_;
+  probing extent_;
   std::vector<csv_row> batch_;
   std::uint64_t bytes_ = 0;
 };

@@ -42,6 +42,20 @@ temporary_file::~temporary_file() {
   remove_when_memory_ends(nullptr);
 }
 
+bool temporary_file::write(std::string_view text) const {
+  constexpr std::size_t part_size = std::size_t{1} << 23;
+  if (!file_) return false;
+  while (text.size() > part_size) {
+    if (!file_.write_all(text.substr(0, part_size))) return false;
+    text.remove_prefix(part_size);
+#ifdef SYNC_FILE_RANGE_WRITE
+    // The disk works while the next part is copied: less is left to wait for in the end.
+    ::sync_file_range(file_.number(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+  }
+  return file_.write_all(text);
+}
+
 bool temporary_file::take_name(const std::string& target, mode_t mode) {
   if (::fchmod(file_.number(), mode) != 0 || ::fsync(file_.number()) != 0) return false;
   return (named_ ? rename_to(target) : link_as(target)) && sync_folder();

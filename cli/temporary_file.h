@@ -26,7 +26,7 @@ class temporary_file {
   // The name to open it by meanwhile.
   const std::string& path() const { return path_; }
   // False, with the reason in errno, when not all was written.
-  bool write(std::string_view text) const { return file_ && file_.write_all(text); }
+  bool write(std::string_view text) const;
   // Makes it the file of that name, a whole path into the folder: the name leads to the
   // old file or the new one at every moment. False, with the reason in errno, when the
   // old one stays.

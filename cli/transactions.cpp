@@ -48,7 +48,7 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   std::vector<tivex_keyvalue_t> list;
   std::uint64_t rows = 0;
   std::uint64_t taken = 0;
-  while (reader.next(row)) {
+  while (!probe.is_done(faults) && reader.next(row)) {
     progress.show(++rows, input.bytes_read());
     std::optional<row_fault> fault = unsound_cell(row, columns);
     if (!fault) {
