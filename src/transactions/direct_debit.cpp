@@ -101,7 +101,7 @@ bool complete(message& msg, const dd_transaction& added) {
          has_amount(msg, added.amount);
 }
 
-constexpr list_rules<dd_transaction> rules = {shared_keys, own_keys, refuse_unknown, complete};
+constexpr list_rules rules = {key_index(joined(shared_keys, own_keys)), refuse_unknown, complete};
 
 }  // namespace
 
