@@ -34,6 +34,11 @@ using xml_buffer_ptr = std::unique_ptr<xml_buffer_t, xml_buffer_delete>;
 // changed, when memory is exhausted or the text would reach 4 GiB.
 bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need);
 
+// Where the next text goes: over the terminating NUL, if there is one.
+inline char* xml_buffer_end(const xml_buffer_t& buf) {
+  return buf.data + (buf.length > 0 ? buf.length - 1 : 0);
+}
+
 // Says how long the text will be, roughly; nothing depends on it but speed.
 void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes);
 
