@@ -27,4 +27,8 @@ std::uint32_t process_id();
 // Overwrites memory with zeros by a call that the compiler cannot remove.
 void wipe(void* memory, std::size_t size);
 
+// Says that memory will be written to soon. A system that gives memory page by page, as
+// it is touched, may give it at once, which is faster; nothing else depends on it.
+void expect_writing(void* memory, std::size_t size);
+
 }  // namespace tivex::platform

@@ -32,7 +32,17 @@ bool move_to_block(xml_buffer_t& buf, std::uint64_t size) {
   release_data(buf);
   buf.data = data;
   buf.allocated = static_cast<std::uint32_t>(size);
+  buf.announced = buf.length;
   return true;
+}
+
+// A piece at a time: a block may be larger than its text will be. Small ones are not
+// worth it.
+void announce(xml_buffer_t& buf) {
+  constexpr std::uint32_t piece = 1U << 18;
+  const std::uint32_t size = std::min(piece, buf.allocated - buf.announced);
+  if (buf.allocated > piece) platform::expect_writing(buf.data + buf.announced, size);
+  buf.announced += size;
 }
 
 }  // namespace
@@ -61,6 +71,7 @@ bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need) {
     }
   }
   buf.capacity = static_cast<std::uint32_t>(capacity);
+  if (buf.capacity > buf.announced) announce(buf);
   return true;
 }
 

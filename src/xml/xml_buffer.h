@@ -18,6 +18,7 @@ struct xml_buffer_t {
   // as the text is expected to be, or double, so that a long text is not copied
   // once for every 256 bytes.
   std::uint32_t allocated = 0;
+  std::uint32_t announced = 0;  // bytes that the system knows to be written
 };
 
 // An empty text, or null when memory is exhausted.
