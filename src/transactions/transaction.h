@@ -47,7 +47,7 @@ template <class record>
 void expect_reading(const record& tx) {
 #if defined(__GNUC__)
   constexpr std::size_t line = 64;
-  constexpr std::size_t typical_texts = 256;
+  constexpr std::size_t typical_texts = 192;
   const char* const start = reinterpret_cast<const char*>(&tx);
   for (std::size_t at = 0; at < sizeof tx + typical_texts; at += line)
     __builtin_prefetch(start + at);

@@ -75,7 +75,7 @@ bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form
       const element payment(writer, "PmtInf");
       write.header(writer, msg, form, block, number);
       // Those of a date may lie anywhere in memory.
-      constexpr std::size_t ahead = 6;
+      constexpr std::size_t ahead = 8;
       const std::size_t count = block.transactions.size();
       for (std::size_t index = 0; index < count; ++index) {
         if (index + ahead < count) expect_reading(*block.transactions[index + ahead].tx);
