@@ -77,7 +77,7 @@ class document_writer {
   // What stands before a line. As many bytes are stored as there are levels at most;
   // the line overwrites what is too much.
   static constexpr std::string_view tabs = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
-  std::string_view indent() const { return tabs.substr(0, depth_); }
+  std::string_view indent() const { return {tabs.data(), depth_}; }
 
   static std::size_t size_of(std::string_view piece) { return piece.size(); }
   static std::size_t size_of(const escaped_text& piece) { return piece.size(); }

@@ -16,11 +16,10 @@
 
 namespace tivex {
 
-// A transaction with what groups it, and its amount: records lie far apart.
+// A transaction with what groups it.
 template <class record>
 struct grouped_transaction {
   block_key key;
-  double amount;
   const record* tx;
 };
 
@@ -87,7 +86,7 @@ bool payment_blocks<record>::group(message& msg, slot_function slot_of) {
     if (std::strlen(date) > block_key::date_length) {
       return msg.fail("Internal error (pmt not found)");
     }
-    all[place] = {block_key(date, slot_of(*tx)), tx->amount, tx};
+    all[place] = {block_key(date, slot_of(*tx)), tx};
     totals_.add(tx->amount);
   }
   if (in_order<entry>(all)) return true;
@@ -106,7 +105,7 @@ payment_block<record> payment_blocks<record>::first_block(std::span<const entry>
   block.slot = first.key.slot();
   for (const entry& candidate : entries) {
     if (candidate.key != first.key) break;
-    block.totals.add(candidate.amount);
+    block.totals.add(candidate.tx->amount);
   }
   block.transactions = entries.first(block.totals.count);
   return block;
