@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 #include "core/bounded_format.h"
 #include "core/owned_text.h"
@@ -46,7 +47,7 @@ struct message {
 
   // Stores a copy of a transaction's value. One that cannot be allocated leaves the
   // field unset, which is no fault of the value and refuses nothing by itself.
-  void keep_copy(owned_text& field, const char* value) {
+  void keep_copy(owned_text& field, std::string_view value) {
     if (!field.assign(value)) copy_failed = true;
   }
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace tivex {
 
 // A text that its holder owns, or none: a malloc block that is overwritten with
@@ -13,15 +15,19 @@ class owned_text {
 
   // Takes a copy in place of the text held so far. When memory is exhausted no
   // text is held afterwards and the result is false.
-  bool assign(const char* text);
+  bool assign(std::string_view text);
 
-  void clear();
+  void clear() {
+    if (text_ != nullptr) release();
+  }
 
   // Null when no text is held.
   const char* c_str() const { return text_; }
   explicit operator bool() const { return text_ != nullptr; }
 
  private:
+  void release();
+
   char* text_ = nullptr;
 };
 

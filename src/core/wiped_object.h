@@ -30,7 +30,7 @@ using wiped_ptr = std::unique_ptr<object, wiping_delete<object>>;
 // exhausted.
 template <class object>
 wiped_ptr<object> make_wiped() {
-  void* const memory = std::calloc(1, sizeof(object));
+  void* const memory = std::malloc(sizeof(object));
   return wiped_ptr<object>(memory != nullptr ? new (memory) object() : nullptr);
 }
 

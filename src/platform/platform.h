@@ -32,4 +32,8 @@ inline void wipe(void* memory, std::size_t size) {
   __asm__ volatile("" : : "r"(memory) : "memory");
 }
 
+// Says that memory will be written to soon. A system that gives memory page by page, as
+// it is touched, may give it at once, which is faster; nothing else depends on it.
+void expect_writing(void* memory, std::size_t size);
+
 }  // namespace tivex::platform

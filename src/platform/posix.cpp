@@ -1,3 +1,5 @@
+#include <errno.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "platform/broken_down.h"
@@ -20,5 +22,19 @@ calendar_time utc_calendar(std::time_t moment) {
 }
 
 std::uint32_t process_id() { return static_cast<std::uint32_t>(getpid()); }
+
+void expect_writing(void* memory, std::size_t size) {
+#ifdef MADV_POPULATE_WRITE
+  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const std::uintptr_t within_page = reinterpret_cast<std::uintptr_t>(memory) % page;
+  // A hint: older systems refuse it, and errno is the host's.
+  const int error = errno;
+  madvise(static_cast<char*>(memory) - within_page, size + within_page, MADV_POPULATE_WRITE);
+  errno = error;
+#else
+  static_cast<void>(memory);
+  static_cast<void>(size);
+#endif
+}
 
 }  // namespace tivex::platform

@@ -2,62 +2,55 @@
 // transaction.
 #pragma once
 
-#include <span>
 #include <utility>
 
 #include "core/rulebook.h"
 #include "transactions/address_fields.h"
+#include "transactions/key_index.h"
 #include "transactions/key_rules.h"
 #include "transactions/transaction.h"
-#include "validation/ascii.h"
 
 namespace tivex {
 
 // What one kind of transaction makes of a list.
-template <class record>
+template <class record, std::size_t count>
 struct list_rules {
-  std::span<const key_rule<record>> shared_keys;
-  std::span<const key_rule<record>> own_keys;
-  // Decides on a key that is in neither table.
+  key_index<key_rule<record>, count> keys;
+  // Decides on a key that is not among them.
   bool (*accept_unknown)(message& msg, const char* key);
   // Decides whether a record has what it needs.
   bool (*complete)(message& msg, const record& added);
 };
 
-template <class record>
-const key_rule<record>* find_key(const list_rules<record>& rules, const char* key) {
-  for (const auto keys : {rules.shared_keys, rules.own_keys}) {
-    for (const key_rule<record>& row : keys) {
-      if (equal_ignoring_case(key, row.key)) return &row;
-    }
-  }
-  return nullptr;
+// The part of a structured address with a key; null where there is none.
+inline const field_row* find_address_field(const written_key& key) {
+  return current_rules().structured_address ? structured_address_fields.find(key) : nullptr;
 }
 
-template <class record>
+template <class record, std::size_t count>
 bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
-                  const list_rules<record>& rules) {
-  if (current_rules().structured_address) {
-    const field_outcome outcome = field_table_set(msg, target, entry, structured_address_fields);
-    if (outcome != field_outcome::unknown_key) return outcome == field_outcome::stored;
+                  const list_rules<record, count>& rules) {
+  const written_key key(entry.key);
+  if (const field_row* const row = find_address_field(key)) {
+    return field_table_set(msg, target, entry, *row);
   }
-  if (const key_rule<record>* const row = find_key(rules, entry.key)) {
+  if (const key_rule<record>* const row = rules.keys.find(key)) {
     return row->accept(msg, target, entry.value);
   }
   return rules.accept_unknown(msg, entry.key);
 }
 
 // The key of a value in the list whose copy the record lacks; null when it lacks none.
-template <class record>
+template <class record, std::size_t count>
 const char* find_lost_value(const record& added, const tivex_keyvalue_t* list,
-                            const list_rules<record>& rules) {
+                            const list_rules<record, count>& rules) {
   for (; list->key != nullptr; ++list) {
-    if (current_rules().structured_address) {
-      const field_row* const row = find_field(structured_address_fields, list->key);
-      if (row != nullptr && !(added.*row->destination)) return row->key;
+    const written_key key(list->key);
+    if (const field_row* const part = find_address_field(key)) {
+      if (!(added.*part->destination)) return part->key.data();
+    } else if (const key_rule<record>* const row = rules.keys.find(key)) {
+      if (row->field != nullptr && !(added.*row->field)) return row->key.data();
     }
-    const key_rule<record>* const row = find_key(rules, list->key);
-    if (row != nullptr && row->field != nullptr && !(added.*row->field)) return row->key;
   }
   return nullptr;
 }
@@ -65,8 +58,9 @@ const char* find_lost_value(const record& added, const tivex_keyvalue_t* list,
 // Builds a record from a list and links it to the message. At the first fault
 // the message's transactions stay as they were, its error text tells the reason,
 // and the result is false.
-template <class record>
-bool add_transaction(message& msg, const tivex_keyvalue_t* list, const list_rules<record>& rules) {
+template <class record, std::size_t count>
+bool add_transaction(message& msg, const tivex_keyvalue_t* list,
+                     const list_rules<record, count>& rules) {
   if (list == nullptr) return msg.fail("No key-value list submitted");
   wiped_ptr<record> added = make_wiped<record>();
   if (!added) return msg.fail("Out of memory");

@@ -23,7 +23,10 @@ bool complete(message& msg, const ct_transaction& added) {
   return has_account(msg, added) && has_amount(msg, added.amount);
 }
 
-constexpr list_rules<ct_transaction> rules = {shared_keys, own_keys, ignore_unknown, complete};
+constexpr auto keys = joined(shared_keys, own_keys);
+
+constexpr list_rules<ct_transaction, keys.size()> rules = {key_index(keys), ignore_unknown,
+                                                           complete};
 
 }  // namespace
 

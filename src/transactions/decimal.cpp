@@ -102,7 +102,10 @@ double parse_decimal(const char* text, const char** end) {
 }
 
 double round_half_up(double x) {
-  const double below = std::floor(x);
+  constexpr double first_of_whole_numbers = 4503599627370496.0;  // 2^52
+  if (!(std::abs(x) < first_of_whole_numbers)) return x;
+  const auto towards_zero = static_cast<double>(static_cast<std::int64_t>(x));
+  const double below = towards_zero > x ? towards_zero - 1 : towards_zero;
   return x - below >= 0.5 ? below + 1 : below;
 }
 

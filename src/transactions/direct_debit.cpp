@@ -101,7 +101,10 @@ bool complete(message& msg, const dd_transaction& added) {
          has_amount(msg, added.amount);
 }
 
-constexpr list_rules<dd_transaction> rules = {shared_keys, own_keys, refuse_unknown, complete};
+constexpr auto keys = joined(shared_keys, own_keys);
+
+constexpr list_rules<dd_transaction, keys.size()> rules = {key_index(keys), refuse_unknown,
+                                                           complete};
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 #include "transactions/field_checks.h"
 
-#include <cstring>
+#include <string_view>
 
 #include "core/rulebook.h"
 #include "transactions/charset.h"
@@ -13,15 +13,18 @@ namespace tivex {
 
 namespace {
 
-bool store(message& msg, owned_text& field, const char* value) {
+bool store(message& msg, owned_text& field, std::string_view value) {
   msg.keep_copy(field, value);
   return true;
 }
 
-bool has_length(const text_rule& rule, const char* value) {
-  if (value == nullptr) return false;
-  const std::size_t length = std::strlen(value);
-  return length >= rule.shortest && length <= rule.longest;
+// A value with its length; a null value becomes a view of nothing.
+std::string_view measured(const char* value) {
+  return value != nullptr ? std::string_view(value) : std::string_view();
+}
+
+bool has_length(const text_rule& rule, std::string_view text) {
+  return text.data() != nullptr && text.size() >= rule.shortest && text.size() <= rule.longest;
 }
 
 bool check_characters(message& msg, const text_rule& rule, const char* value) {
@@ -33,8 +36,9 @@ bool check_characters(message& msg, const text_rule& rule, const char* value) {
 }  // namespace
 
 bool accept_text(message& msg, const text_rule& rule, const char* value, owned_text& field) {
-  if (!has_length(rule, value)) return msg.fail(rule.length_error);
-  return check_characters(msg, rule, value) && store(msg, field, value);
+  const std::string_view text = measured(value);
+  if (!has_length(rule, text)) return msg.fail(rule.length_error);
+  return check_characters(msg, rule, value) && store(msg, field, text);
 }
 
 bool accept_iban(message& msg, const text_rule& /*rule*/, const char* value, owned_text& field) {
@@ -51,10 +55,11 @@ bool accept_bic(message& msg, const text_rule& /*rule*/, const char* value, owne
 }
 
 bool accept_country(message& msg, const text_rule& rule, const char* value, owned_text& field) {
-  if (!has_length(rule, value) || !is_upper(value[0]) || !is_upper(value[1])) {
+  const std::string_view text = measured(value);
+  if (!has_length(rule, text) || !is_upper(text[0]) || !is_upper(text[1])) {
     return msg.fail(rule.length_error);
   }
-  return store(msg, field, value);
+  return store(msg, field, text);
 }
 
 bool accept_address_line(message& msg, const text_rule& rule, const char* value,

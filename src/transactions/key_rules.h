@@ -1,8 +1,10 @@
 // The keys through which a host describes a transaction: a row each.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 #include "transactions/amount.h"
 #include "transactions/charset.h"
@@ -13,7 +15,7 @@ namespace tivex {
 // Most keys store a checked text; the others have a function of their own.
 template <class record>
 struct key_rule {
-  const char* key;
+  std::string_view key;
   owned_text record::*field = nullptr;
   field_check* check = nullptr;
   text_rule rule = {};
@@ -66,6 +68,15 @@ constexpr std::array<key_rule<record>, 10> shared_key_rules(const char* name_err
        {1, 35, "Invalid end-to-end ID (must be 1-35 characters)", CHARSET_PLAIN,
         "Invalid character '%c' in end-to-end ID"}},
   }};
+}
+
+// The rows of both tables.
+template <class row, std::size_t first, std::size_t second>
+constexpr std::array<row, first + second> joined(const std::array<row, first>& left,
+                                                 const std::array<row, second>& right) {
+  std::array<row, first + second> rows = {};
+  std::copy(right.begin(), right.end(), std::copy(left.begin(), left.end(), rows.begin()));
+  return rows;
 }
 
 }  // namespace tivex

@@ -2,6 +2,8 @@
 // which a message holds them.
 #pragma once
 
+#include <cstddef>
+
 #include "core/message.h"
 #include "core/owned_text.h"
 #include "core/wiped_object.h"
@@ -37,6 +39,19 @@ struct transaction {
 template <class record>
 record* first_transaction(const message& msg) {
   return static_cast<record*>(msg.first);
+}
+
+// Says that a record will be read soon. Its texts mostly stand right behind it, because
+// they were allocated next. Nothing depends on it but speed.
+template <class record>
+void expect_reading(const record& tx) {
+#if defined(__GNUC__)
+  constexpr std::size_t line = 64;
+  constexpr std::size_t typical_texts = 192;
+  const char* const start = reinterpret_cast<const char*>(&tx);
+  for (std::size_t at = 0; at < sizeof tx + typical_texts; at += line)
+    __builtin_prefetch(start + at);
+#endif
 }
 
 // Puts a record behind the others, which the message then owns.

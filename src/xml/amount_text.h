@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace tivex {
 
@@ -12,13 +13,15 @@ using number_text = char[128];
 // where 64 bits cannot hold them.
 std::int64_t cents_of(double value);
 
-// Writes cents as euro with two decimals.
-void format_cents(char* out, std::size_t size, std::int64_t cents);
+// Each writes a number and gives back what it has written.
 
-// Writes a sum in euro with two decimals, rounded half up to cents. A sum beyond
+// Cents as euro with two decimals.
+std::string_view format_cents(char* out, std::size_t size, std::int64_t cents);
+
+// A sum in euro with two decimals, rounded half up to cents. A sum beyond
 // 92233720368547758.07 is written as that.
-void format_amount(char* out, std::size_t size, double value);
+std::string_view format_amount(char* out, std::size_t size, double value);
 
-void format_count(char* out, std::size_t size, std::uint32_t count);
+std::string_view format_count(char* out, std::size_t size, std::uint32_t count);
 
 }  // namespace tivex

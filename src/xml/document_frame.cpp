@@ -13,10 +13,8 @@ namespace {
 // The number of transactions and the sum of their amounts.
 void write_totals(document_writer& out, const message& msg, const payment_totals& totals) {
   number_text text;
-  format_count(text, sizeof text, totals.count);
-  out.value("NbOfTxs", text);
-  format_cents(text, sizeof text, stated_cents(msg, totals));
-  out.value("CtrlSum", text);
+  out.value("NbOfTxs", format_count(text, sizeof text, totals.count));
+  out.value("CtrlSum", format_cents(text, sizeof text, stated_cents(msg, totals)));
 }
 
 void write_payment_id(document_writer& out, const message& msg, int number) {
@@ -79,8 +77,7 @@ void write_service_level(document_writer& out) {
 
 void write_amount(document_writer& out, double amount) {
   number_text text;
-  format_amount(text, sizeof text, amount);
-  out.value("InstdAmt", text, " Ccy=\"EUR\"");
+  out.value("InstdAmt", format_amount(text, sizeof text, amount), " Ccy=\"EUR\"");
 }
 
 }  // namespace tivex

@@ -74,8 +74,12 @@ bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form
     blocks.for_each([&](const payment_block<record>& block, int number) {
       const element payment(writer, "PmtInf");
       write.header(writer, msg, form, block, number);
-      for (const auto& entry : block.transactions) {
-        write.transaction(writer, form.schema, *entry.tx);
+      // Those of a date may lie anywhere in memory.
+      constexpr std::size_t ahead = 8;
+      const std::size_t count = block.transactions.size();
+      for (std::size_t index = 0; index < count; ++index) {
+        if (index + ahead < count) expect_reading(*block.transactions[index + ahead].tx);
+        write.transaction(writer, form.schema, *block.transactions[index].tx);
       }
     });
   }

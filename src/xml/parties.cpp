@@ -42,29 +42,6 @@ std::span<const address_element> address_elements(const document_schema& schema)
 
 }  // namespace
 
-void write_end_to_end_id(document_writer& out, const transaction& tx) {
-  const element id(out, "PmtId");
-  out.value("EndToEndId", tx.end_to_end_id ? tx.end_to_end_id.c_str() : "NOTPROVIDED");
-}
-
-void write_account(document_writer& out, std::string_view element_name, const owned_text& iban) {
-  const element account(out, element_name);
-  const element id(out, "Id");
-  out.optional_value("IBAN", iban);
-}
-
-void write_agent(document_writer& out, std::string_view element_name, const document_schema& schema,
-                 const owned_text& bic) {
-  const element agent(out, element_name);
-  const element institution(out, "FinInstnId");
-  out.optional_value(schema.bic_element, bic);
-}
-
-void write_party(document_writer& out, std::string_view element_name, const owned_text& name) {
-  const element party(out, element_name);
-  out.optional_escaped("Nm", name);
-}
-
 void write_address(document_writer& out, const document_schema& schema, const transaction& tx) {
   if (!tx.addr_country && !tx.addr_town && !tx.addr_line1 && !tx.addr_line2) return;
   const element address(out, "PstlAdr", left_out_when_empty);

@@ -1,28 +1,25 @@
 // The grouping of a message's transactions into payment blocks.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <span>
-#include <tuple>
+#include <utility>
 
 #include "core/message.h"
 #include "transactions/transaction.h"
-#include "xml/date_key.h"
+#include "xml/block_key.h"
+#include "xml/key_order.h"
 #include "xml/payment_totals.h"
 
 namespace tivex {
 
-// A transaction with what orders it: the date, the slot within the date, and its
-// place in the message.
+// A transaction with what groups it.
 template <class record>
 struct grouped_transaction {
-  date_key date;
-  std::int32_t slot;
-  std::uint32_t place;
+  block_key key;
   const record* tx;
 };
 
@@ -36,8 +33,7 @@ struct payment_block {
 };
 
 // The blocks of a message in ascending order of dates and, within a date, of
-// slots. They come from sorting, which takes n log n steps
-// whatever the dates are.
+// slots.
 template <class record>
 class payment_blocks {
  public:
@@ -60,13 +56,18 @@ class payment_blocks {
   struct free_delete {
     void operator()(entry* entries) const { std::free(entries); }
   };
+  using entry_array = std::unique_ptr<entry[], free_delete>;
+
+  static entry_array make_entries(std::uint32_t count) {
+    return entry_array(static_cast<entry*>(std::calloc(count, sizeof(entry))));
+  }
 
   const char* date_of(const record& tx) const { return tx.date ? tx.date.c_str() : default_date_; }
   // The block that some entries begin with.
   payment_block<record> first_block(std::span<const entry> entries) const;
 
   const char* default_date_ = nullptr;
-  std::unique_ptr<entry[], free_delete> entries_;
+  entry_array entries_;
   payment_totals totals_;
 };
 
@@ -75,21 +76,24 @@ template <class slot_function>
 bool payment_blocks<record>::group(message& msg, slot_function slot_of) {
   if (msg.tx_count == 0) return true;
   default_date_ = msg.date.c_str();
-  entries_.reset(static_cast<entry*>(std::calloc(msg.tx_count, sizeof(entry))));
+  entries_ = make_entries(msg.tx_count);
   if (!entries_) return msg.fail("Out of memory");
 
   const std::span<entry> all(entries_.get(), msg.tx_count);
   const record* tx = first_transaction<record>(msg);
   for (std::uint32_t place = 0; place < msg.tx_count; ++place, tx = tx->next) {
     const char* const date = date_of(*tx);
-    if (std::strlen(date) > date_key::length) return msg.fail("Internal error (pmt not found)");
-    all[place] = {date_key(date), slot_of(*tx), place, tx};
+    if (std::strlen(date) > block_key::date_length) {
+      return msg.fail("Internal error (pmt not found)");
+    }
+    all[place] = {block_key(date, slot_of(*tx)), tx};
     totals_.add(tx->amount);
   }
-  std::sort(all.begin(), all.end(), [](const entry& left, const entry& right) {
-    return std::tie(left.date, left.slot, left.place) <
-           std::tie(right.date, right.slot, right.place);
-  });
+  if (in_order<entry>(all)) return true;
+  entry_array others = make_entries(msg.tx_count);
+  if (!others) return msg.fail("Out of memory");
+  const std::span<entry> ordered = order_by_key(all, std::span(others.get(), msg.tx_count));
+  if (ordered.data() != entries_.get()) std::swap(entries_, others);
   return true;
 }
 
@@ -98,9 +102,9 @@ payment_block<record> payment_blocks<record>::first_block(std::span<const entry>
   const entry& first = entries.front();
   payment_block<record> block;
   block.date = date_of(*first.tx);
-  block.slot = first.slot;
+  block.slot = first.key.slot();
   for (const entry& candidate : entries) {
-    if (candidate.date != first.date || candidate.slot != first.slot) break;
+    if (candidate.key != first.key) break;
     block.totals.add(candidate.tx->amount);
   }
   block.transactions = entries.first(block.totals.count);

@@ -45,12 +45,12 @@ template <class record>
 keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
   if (!schema.structured_address || (!tx.addr_town && !tx.addr_country)) return {};
   const bool needs_both = schema.asks_for(DEMAND_TOWN_AND_COUNTRY);
-  for (const field_row& part : structured_address_fields) {
+  for (const field_row& part : structured_address_fields.rows()) {
     const owned_text& held = tx.*part.destination;
     const bool needed = needs_both && part.destination == &transaction::addr_town;
-    if (!held && needed) return {part.key, {flaw::missing}};
+    if (!held && needed) return {part.key.data(), {flaw::missing}};
     const value_flaw found = held ? escaped_text_flaw(held.c_str(), schema) : value_flaw{};
-    if (found) return {part.key, found};
+    if (found) return {part.key.data(), found};
   }
   return {"addrCC", {!tx.addr_country && needs_both ? flaw::missing : flaw::none}};
 }

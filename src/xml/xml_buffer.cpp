@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/platform.h"
+#include "xml/escaped_text.h"
 
 namespace tivex {
 
@@ -31,25 +32,17 @@ bool move_to_block(xml_buffer_t& buf, std::uint64_t size) {
   release_data(buf);
   buf.data = data;
   buf.allocated = static_cast<std::uint32_t>(size);
+  buf.announced = buf.length;
   return true;
 }
 
-std::string_view entity_of(char c) {
-  switch (c) {
-    case '<':
-      return "&lt;";
-    case '>':
-      return "&gt;";
-    case '&':
-      return "&amp;";
-    default:
-      return {};
-  }
-}
-
-// Where the next text goes: over the terminating NUL, if there is one.
-char* end_of_text(const xml_buffer_t& buf) {
-  return buf.data + (buf.length > 0 ? buf.length - 1 : 0);
+// A piece at a time: a block may be larger than its text will be. Small ones are not
+// worth it.
+void announce(xml_buffer_t& buf) {
+  constexpr std::uint32_t piece = 1U << 18;
+  const std::uint32_t size = std::min(piece, buf.allocated - buf.announced);
+  if (buf.allocated > piece) platform::expect_writing(buf.data + buf.announced, size);
+  buf.announced += size;
 }
 
 }  // namespace
@@ -78,6 +71,7 @@ bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need) {
     }
   }
   buf.capacity = static_cast<std::uint32_t>(capacity);
+  if (buf.capacity > buf.announced) announce(buf);
   return true;
 }
 
@@ -89,7 +83,7 @@ void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes) {
 bool xml_buffer_append(xml_buffer_t& buf, std::string_view text) {
   if (text.data() == nullptr) return true;
   if (!xml_buffer_reserve(buf, text.size() + 1)) return false;
-  char* const out = end_of_text(buf);
+  char* const out = xml_buffer_end(buf);
   std::memcpy(out, text.data(), text.size());
   out[text.size()] = '\0';
   buf.length = static_cast<std::uint32_t>(out + text.size() + 1 - buf.data);
@@ -98,22 +92,11 @@ bool xml_buffer_append(xml_buffer_t& buf, std::string_view text) {
 
 bool xml_buffer_append_escaped(xml_buffer_t& buf, const char* text) {
   if (text == nullptr) return true;
-  std::size_t size = 1;
-  for (const char* next = text; *next != '\0'; ++next) {
-    size += std::max<std::size_t>(entity_of(*next).size(), 1);
-  }
-  if (!xml_buffer_reserve(buf, size)) return false;
-  char* out = end_of_text(buf);
-  for (; *text != '\0'; ++text) {
-    const std::string_view entity = entity_of(*text);
-    if (entity.empty()) {
-      *out++ = *text;
-    } else {
-      out = std::copy(entity.begin(), entity.end(), out);
-    }
-  }
-  *out = '\0';
-  buf.length = static_cast<std::uint32_t>(out + 1 - buf.data);
+  const escaped_text escaped(text);
+  if (!xml_buffer_reserve(buf, escaped.size() + 1)) return false;
+  char* const end = escaped.put(xml_buffer_end(buf));
+  *end = '\0';
+  buf.length = static_cast<std::uint32_t>(end + 1 - buf.data);
   return true;
 }
 

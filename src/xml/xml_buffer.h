@@ -18,6 +18,7 @@ struct xml_buffer_t {
   // as the text is expected to be, or double, so that a long text is not copied
   // once for every 256 bytes.
   std::uint32_t allocated = 0;
+  std::uint32_t announced = 0;  // bytes that the system knows to be written
 };
 
 // An empty text, or null when memory is exhausted.
@@ -33,6 +34,11 @@ using xml_buffer_ptr = std::unique_ptr<xml_buffer_t, xml_buffer_delete>;
 // Makes sure that `need` bytes are free behind `length`. False, with nothing
 // changed, when memory is exhausted or the text would reach 4 GiB.
 bool xml_buffer_reserve(xml_buffer_t& buf, std::size_t need);
+
+// Where the next text goes: over the terminating NUL, if there is one.
+inline char* xml_buffer_end(const xml_buffer_t& buf) {
+  return buf.data + (buf.length > 0 ? buf.length - 1 : 0);
+}
 
 // Says how long the text will be, roughly; nothing depends on it but speed.
 void xml_buffer_expect(xml_buffer_t& buf, std::uint64_t bytes);

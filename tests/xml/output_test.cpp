@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <span>
 #include <tuple>
 
 #include "support/messages.h"
@@ -10,6 +12,7 @@
 #include "xml/amount_text.h"
 #include "xml/document_stamp.h"
 #include "xml/document_writer.h"
+#include "xml/key_order.h"
 
 using namespace tivex;
 
@@ -88,6 +91,40 @@ TEST(DocumentWriter, TellsOfValuesThatDoNotFitButNotOfMarkup) {
     EXPECT_EQ(out->length, length) << "nothing is written behind a gap";
     EXPECT_FALSE(document.succeeded(*msg));
     EXPECT_EQ(error_of(msg), error);
+  }
+}
+
+TEST(KeyOrder, IsOfBytesAndOtherwiseThatOfAdding) {
+  struct entry {
+    block_key key;
+    std::string date;
+    int slot;
+    std::size_t place;
+    bool operator<(const entry& other) const {
+      return std::tie(date, slot) < std::tie(other.date, other.slot);
+    }
+  };
+  std::mt19937 random(5);
+  // Ever more bytes differ.
+  for (std::size_t varying = 0; varying <= 10; ++varying) {
+    std::vector<entry> entries;
+    for (std::size_t place = 0; place < 300; ++place) {
+      std::string date = "2026-11-30";
+      for (std::size_t byte = 10 - varying; byte < 10; ++byte)
+        date[byte] = "09\x7F\xFF"[random() % 4];
+      const int slot = static_cast<int>(random() % 4);
+      entries.push_back({block_key(date.c_str(), slot), date, slot, place});
+    }
+    std::vector<entry> expected = entries;
+    std::stable_sort(expected.begin(), expected.end());
+    EXPECT_FALSE(in_order<entry>(entries));
+    std::vector<entry> room(entries.size());
+    const std::span<entry> ordered = order_by_key<entry>(entries, room);
+    EXPECT_TRUE(in_order<entry>(ordered));
+    for (std::size_t index = 0; index < expected.size(); ++index) {
+      ASSERT_EQ(ordered[index].place, expected[index].place);
+      ASSERT_EQ(ordered[index].key.slot(), expected[index].slot);
+    }
   }
 }
 
