@@ -27,4 +27,8 @@ std::uint32_t process_id();
 // Overwrites memory with zeros by a call that the compiler cannot remove.
 void wipe(void* memory, std::size_t size);
 
+// Says that a new block, if it is large, will be filled from its start: the system may
+// then give its memory in larger pieces, which takes far less time.
+void prefer_large_pages(void* memory, std::size_t size);
+
 }  // namespace tivex::platform

@@ -1,4 +1,6 @@
+#include <errno.h>
 #include <string.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "platform/broken_down.h"
@@ -23,5 +25,19 @@ calendar_time utc_calendar(std::time_t moment) {
 std::uint32_t process_id() { return static_cast<std::uint32_t>(getpid()); }
 
 void wipe(void* memory, std::size_t size) { explicit_bzero(memory, size); }
+
+void prefer_large_pages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) {
+#ifdef MADV_HUGEPAGE
+  // Twice the usual large page: a smaller block may hold none.
+  constexpr std::size_t large_block = std::size_t{4} << 20;
+  if (size < large_block) return;
+  const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  const std::size_t in_front = reinterpret_cast<std::uintptr_t>(memory) % page;
+  const int error = errno;
+  // A wish: where it is refused, the memory serves as well.
+  static_cast<void>(madvise(static_cast<char*>(memory) - in_front, size + in_front, MADV_HUGEPAGE));
+  errno = error;
+#endif
+}
 
 }  // namespace tivex::platform

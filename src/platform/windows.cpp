@@ -22,4 +22,7 @@ std::uint32_t process_id() { return GetCurrentProcessId(); }
 
 void wipe(void* memory, std::size_t size) { SecureZeroMemory(memory, size); }
 
+// Large pages need a privilege here.
+void prefer_large_pages(void*, std::size_t) {}
+
 }  // namespace tivex::platform

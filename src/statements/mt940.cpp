@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "core/wiped_object.h"
 #include "statements/mt940_lines.h"
 
 namespace tivex {
@@ -55,15 +54,15 @@ bool read_statements(statement_parser& parser, mt940_progress& progress) {
   for (;;) {
     char* const found = find_line_end(progress.line, progress.end, start);
     if (found == nullptr) return true;
-    auto statement = make_wiped<tivex_stmt_t>();
-    if (!statement) return false;
+    auto* const statement = parser.records.make<tivex_stmt_t>();
+    if (statement == nullptr) return false;
     statement->reference = found + line_end_length + start.size();
     char* const reference_end = find_line_end(statement->reference, progress.end);
     if (reference_end == nullptr) return true;
     *reference_end = '\0';
     progress.line = reference_end + line_end_length;
-    progress.statement = statement.get();
-    append(parser, statement.release());
+    progress.statement = statement;
+    append(parser, statement);
     if (read_lines(progress) == line_outcome::no_memory) return false;
   }
 }
@@ -73,10 +72,10 @@ bool read_statements(statement_parser& parser, mt940_progress& progress) {
 int mt940_parse(statement_parser& parser, char* text) {
   if (parser.mt940 == nullptr) return parser.fail("%s", "MT940 parser not initialized");
   if (text == nullptr || *text == '\0') return 0;
-  mt940_progress progress(text, text + std::strlen(text));
+  mt940_progress progress(text, text + std::strlen(text), parser.records);
   if (read_statements(parser, progress)) return 1;
   // The statements would point into a text that is not kept.
-  release_statements(parser.first);
+  parser.records.release();
   parser.first = nullptr;
   parser.last = nullptr;
   return 0;

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "core/wiped_object.h"
 #include "statements/mt940_dates.h"
 #include "statements/mt940_lines.h"
 #include "transactions/decimal.h"
@@ -13,8 +12,8 @@ namespace {
 constexpr std::size_t tag_length = 4;  // ":61:"
 
 // Null when memory is exhausted.
-tivex_stmt_tx_t* append_entry(tivex_stmt_t& statement) {
-  tivex_stmt_tx_t* const entry = make_wiped<tivex_stmt_tx_t>().release();
+tivex_stmt_tx_t* append_entry(record_blocks& records, tivex_stmt_t& statement) {
+  auto* const entry = records.make<tivex_stmt_tx_t>();
   if (entry == nullptr) return nullptr;
   (statement.last_tx == nullptr ? statement.first_tx : statement.last_tx->next) = entry;
   statement.last_tx = entry;
@@ -65,7 +64,7 @@ void read_references(mt940_progress& progress, char* from) {
 }  // namespace
 
 line_outcome read_entry(mt940_progress& progress) {
-  tivex_stmt_tx_t* const entry = append_entry(*progress.statement);
+  tivex_stmt_tx_t* const entry = append_entry(progress.records, *progress.statement);
   if (entry == nullptr) return line_outcome::no_memory;
   progress.entry = entry;
 

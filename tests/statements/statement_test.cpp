@@ -17,6 +17,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+std::string repeated(const std::string& part, int times) {
+  std::string text;
+  for (; times > 0; --times) text += part;
+  return text;
+}
+
 std::string bytes_of(double number) {
   return {reinterpret_cast<const char*>(&number), sizeof number};
 }
@@ -100,6 +106,8 @@ TEST(StatementParser, NeedsItsStateAndAText) {
 }
 
 TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
+  // Enough for several blocks of records.
+  const temporary_file file(repeated(content_of(example), 100));
   bool happened = true;
   std::set<std::string> errors;
   const runtime_control::released_text_watch watch("SVWZ+");
@@ -107,14 +115,14 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
     const runtime_control::failing_allocation failing(n);
     const parser_ptr parser = new_parser();
     if (!parser) continue;
-    const int result = load(parser, example);
+    const int result = load(parser, file.path);
     happened = failing.happened();
     EXPECT_EQ(result, happened ? 0 : 1) << n;
     EXPECT_EQ(tivex_stmt_parser_getStatement(parser.get()) == nullptr, happened) << n;
     std::string error = tivex_stmt_parser_getError(parser.get());
     errors.insert(error.substr(0, error.find(" bytes")));
   }
-  const std::string size = std::to_string(fs::file_size(example));
+  const std::string size = std::to_string(fs::file_size(file.path));
   EXPECT_EQ(errors, (std::set<std::string>{
                         "", "Error while allocating " + std::to_string(sizeof(tivex::mt940_state)),
                         "Failed to allocate " + size}));
@@ -125,8 +133,8 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
 // The text of the file, and the amounts of the records.
 TEST(StatementParser, WipesWhatItReleases) {
   const std::string text =
-      "\r\n:20:R\r\n:60F:C240131EUR76543,21\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,"
-      "00NTRF\r\n";
+      "\r\n:20:R\r\n:60F:C240131EUR76543,21" +
+      repeated("\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,00NTRF", 50) + "\r\n";
   for (const std::string& bytes : {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
     const temporary_file file(text);
     const runtime_control::released_text_watch watch(bytes);
@@ -136,7 +144,7 @@ TEST(StatementParser, WipesWhatItReleases) {
     ASSERT_EQ(statement->opening_balance, 76543.21);
     ASSERT_EQ(statement->first_tx->amount, 12345.67);
     parser.reset();
-    EXPECT_EQ(watch.blocks(), 6u) << "parser, state, text, statement and two entries";
+    EXPECT_EQ(watch.blocks(), 7u) << "parser, state, text and four blocks of records";
     EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
   }
 }
