@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "statements/mt940_dates.h"
 #include "statements/mt940_lines.h"
 #include "transactions/decimal.h"
@@ -20,16 +18,13 @@ tivex_stmt_tx_t* append_entry(record_blocks& records, tivex_stmt_t& statement) {
   return entry;
 }
 
-bool all_digits(std::string_view text) { return std::all_of(text.begin(), text.end(), is_digit); }
-
 // Reads MMDD. The year is that of the value date, or its neighbour when the year
 // turns between the two dates. Nothing when there are no four digits.
 bool read_entry_date(std::string_view characters, int value_year, int value_month, std::tm& date) {
   constexpr std::size_t length = 4;
   if (characters.size() < length || !all_digits(characters)) return false;
-  number_scanner scanner(characters);
-  scanner.read_signed(2, date.tm_mon);
-  scanner.read_signed(2, date.tm_mday);
+  date.tm_mon = two_digits(characters.data());
+  date.tm_mday = two_digits(characters.data() + 2);
   date.tm_year = value_year;
   if (value_month == 12 && date.tm_mon == 1) ++date.tm_year;
   if (value_month == 1 && date.tm_mon == 12) --date.tm_year;

@@ -17,7 +17,8 @@ struct mt940_progress {
         line(text),
         records(made),
         next_n('N', text_end),
-        next_comma(',', text_end) {}
+        next_comma(',', text_end),
+        last_tag(text, text_end) {}
 
   char* end;                 // of the text
   char* line;                // its first character
@@ -27,6 +28,7 @@ struct mt940_progress {
   tivex_stmt_tx_t* entry = nullptr;  // the last one, be it of an earlier statement
   next_character next_n;
   next_character next_comma;
+  last_tag_start last_tag;
 
   // The line's end, or the text's.
   char* line_limit() const { return line_end == nullptr ? end : line_end; }

@@ -83,4 +83,13 @@ char* next_character::find(char* from) {
   return found_;
 }
 
+bool last_tag_start::is_behind(const char* line_end) {
+  constexpr std::string_view tag_start = "\r\n:";
+  if (found_ == nullptr) {
+    found_ = end_;
+    while (found_ > text_ && !starts_with(found_, end_, tag_start)) --found_;
+  }
+  return found_ >= line_end && starts_with(found_, end_, tag_start);
+}
+
 }  // namespace tivex

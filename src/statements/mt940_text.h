@@ -1,10 +1,13 @@
 // Reading steps on a text of known end, none of which goes past it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+
+#include "validation/ascii.h"
 
 namespace tivex {
 
@@ -30,6 +33,13 @@ inline char* step(char* at, const char* end, std::size_t count) {
 inline std::string_view between(const char* from, const char* to) {
   return {from, static_cast<std::size_t>(to - from)};
 }
+
+inline bool all_digits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), is_digit);
+}
+
+// Of two digits.
+inline int two_digits(const char* at) { return (at[0] - '0') * 10 + (at[1] - '0'); }
 
 // Copies as much as there is room for, behind the bytes that are used already.
 template <std::size_t size>
@@ -77,6 +87,21 @@ class next_character {
   char character_;
   char* end_;
   char* found_ = nullptr;
+};
+
+// The last place of a text where a tag may begin a line. It is searched when it is first
+// asked for; lines that are asked about later must still be as they were.
+class last_tag_start {
+ public:
+  last_tag_start(char* text, char* end) : text_(text), end_(end) {}
+
+  // Whether the CR LF in front of it stands at this line end or behind.
+  bool is_behind(const char* line_end);
+
+ private:
+  char* text_;
+  char* end_;
+  const char* found_ = nullptr;
 };
 
 }  // namespace tivex
