@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "statements/mt940_lines.h"
+#include "statements/places.h"
 #include "statements/purpose_text.h"
 #include "validation/ascii.h"
 
@@ -57,14 +58,14 @@ class rising_marks {
  public:
   rising_marks(char* first, char* end) {
     int highest = no_subfield;
-    for (char* at = first; at < end; at = find_mark(at + 1, end)) {
+    all_rise_ = visit_places_of('?', first, end, [&](char* at) {
       const int number = subfield_at(at, end);
-      if (number == no_subfield) continue;
-      all_rise_ = number > highest;
-      if (!all_rise_) return;
+      if (number == no_subfield) return true;
+      if (number <= highest) return false;
       highest = number;
       *last_++ = {at, number};
-    }
+      return true;
+    });
   }
 
   bool all_rise() const { return all_rise_; }
@@ -74,7 +75,7 @@ class rising_marks {
  private:
   subfield_mark marks_[subfield_count];
   subfield_mark* last_ = marks_;  // behind the last one
-  bool all_rise_ = true;
+  bool all_rise_;
 };
 
 // The marks of any field. A question mark may also stand in a text: a subfield ends at
@@ -83,10 +84,11 @@ class rising_marks {
 class subfields {
  public:
   subfields(char* field, char* end) : end_(end) {
-    for (char* at = find_mark(field, end); at < end; at = find_mark(at + 1, end)) {
-      const int number = subfield_at(at, end);
+    visit_places_of('?', field, end, [this](char* at) {
+      const int number = subfield_at(at, end_);
       if (number != no_subfield) last_[number] = at;
-    }
+      return true;
+    });
   }
 
   // Where the content behind a mark with this number ends.

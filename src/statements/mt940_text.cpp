@@ -35,15 +35,15 @@ bool number_scanner::skip_to_digits(std::size_t& width) {
 
 bool number_scanner::read_signed(std::size_t width, int& value) {
   const bool negative = skip_to_digits(width);
+  const char* const digits = rest_.data();
+  const char* const limit = digits + std::min(width, rest_.size());
+  const char* at = digits;
   int number = 0;
-  bool any = false;
-  for (; width > 0 && !rest_.empty() && is_digit(rest_.front()); --width) {
-    number = number * 10 + (rest_.front() - '0');
-    rest_.remove_prefix(1);
-    any = true;
-  }
-  if (any) value = negative ? -number : number;
-  return any;
+  for (; at < limit && is_digit(*at); ++at) number = number * 10 + (*at - '0');
+  if (at == digits) return false;
+  rest_.remove_prefix(static_cast<std::size_t>(at - digits));
+  value = negative ? -number : number;
+  return true;
 }
 
 bool number_scanner::read_unsigned(std::uint32_t& value) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
-#include <string_view>
 
 #include "statements/mt940_text.h"
 
@@ -14,7 +13,7 @@ namespace {
 constexpr std::size_t keyword_length = 5;
 
 struct keyword_row {
-  std::string_view keyword;
+  char keyword[keyword_length + 1];
   char* tivex_stmt_tx_t::*field;
   bool is_amount = false;  // its decimal comma becomes a point
 };
@@ -40,10 +39,10 @@ void purpose_text::begin(text_field field, char* text, char* end) {
 bool purpose_text::begin_keyword(char* content, char* end) {
   if (end - content < static_cast<std::ptrdiff_t>(keyword_length)) return false;
   if (content[keyword_length - 1] != '+') return false;
-  const std::string_view keyword(content, keyword_length);
   const auto* const row = std::find_if(
-      std::begin(keywords), std::end(keywords),
-      [keyword](const keyword_row& candidate) { return candidate.keyword == keyword; });
+      std::begin(keywords), std::end(keywords), [content](const keyword_row& candidate) {
+        return std::memcmp(content, candidate.keyword, keyword_length) == 0;
+      });
   if (row == std::end(keywords)) return false;
   begin(row->field, content + keyword_length, end);
   if (row->is_amount) point_for_comma(content + keyword_length, end);

@@ -21,7 +21,7 @@ bool record_blocks::add_block() {
   const std::size_t before = newest_ != nullptr ? newest_->capacity + sizeof(block) : 0;
   const std::size_t doubled = 2 * (before + allocator_overhead);
   const std::size_t size = std::clamp(doubled, smallest_block, largest_block) - allocator_overhead;
-  void* const memory = std::malloc(size);
+  void* const memory = std::calloc(1, size);
   if (memory == nullptr) return false;
   platform::prefer_large_pages(memory, size);
   newest_ = new (memory) block{newest_, size - sizeof(block), 0};

@@ -19,7 +19,7 @@ class record_blocks {
   record* make() {
     static_assert(alignof(record) <= alignof(block) && sizeof(record) < smallest_block / 2);
     void* const place = room_for(sizeof(record));
-    return place != nullptr ? new (place) record() : nullptr;
+    return static_cast<record*>(place);
   }
 
   // Overwrites the records with zeros and releases them.
