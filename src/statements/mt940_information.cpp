@@ -58,14 +58,16 @@ class rising_marks {
  public:
   rising_marks(char* first, char* end) {
     int highest = no_subfield;
+    subfield_mark* last = marks_;
     all_rise_ = visit_places_of('?', first, end, [&](char* at) {
       const int number = subfield_at(at, end);
       if (number == no_subfield) return true;
       if (number <= highest) return false;
       highest = number;
-      *last_++ = {at, number};
+      *last++ = {at, number};
       return true;
     });
+    last_ = last;
   }
 
   bool all_rise() const { return all_rise_; }
@@ -74,7 +76,7 @@ class rising_marks {
 
  private:
   subfield_mark marks_[subfield_count];
-  subfield_mark* last_ = marks_;  // behind the last one
+  subfield_mark* last_;  // behind the last one
   bool all_rise_;
 };
 
