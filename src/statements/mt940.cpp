@@ -8,12 +8,18 @@ namespace tivex {
 
 namespace {
 
-struct tagged_line {
-  std::string_view tag;
-  line_reader* read;
-};
+constexpr std::size_t common_tag_length = 4;
 
-line_outcome end_statement(mt940_progress&) { return line_outcome::statement_ends; }
+struct tagged_line {
+  char tag[common_tag_length + 2];  // one character more, or none
+  line_reader* read;
+
+  // A text is followed by NUL.
+  bool begins(const char* line) const {
+    if (std::memcmp(line, tag, common_tag_length) != 0) return false;
+    return tag[common_tag_length] == '\0' || line[common_tag_length] == tag[common_tag_length];
+  }
+};
 
 // The most frequent ones stand in front.
 constexpr tagged_line tagged_lines[] = {
@@ -26,14 +32,17 @@ constexpr tagged_line tagged_lines[] = {
     {":60M:", read_opening_balance},
     {":62F:", read_closing_balance},
     {":62M:", read_closing_balance},
-    {"-", end_statement},
 };
 
 constexpr std::size_t line_end_length = 2;  // CR LF
 
 line_outcome read_line(mt940_progress& progress) {
+  if (*progress.line == '-') return line_outcome::statement_ends;
+  if (progress.end - progress.line < static_cast<std::ptrdiff_t>(common_tag_length)) {
+    return line_outcome::next_line;
+  }
   for (const tagged_line& row : tagged_lines) {
-    if (starts_with(progress.line, progress.end, row.tag)) return row.read(progress);
+    if (row.begins(progress.line)) return row.read(progress);
   }
   return line_outcome::next_line;
 }
@@ -58,7 +67,10 @@ void append(statement_parser& parser, tivex_stmt_t* statement) {
 bool read_statements(statement_parser& parser, mt940_progress& progress) {
   constexpr std::string_view start = ":20:";
   for (;;) {
-    char* const found = find_line_end(progress.line, progress.end, start);
+    char* found = find_line_end(progress.line, progress.end);
+    while (found != nullptr && !starts_with(found + line_end_length, progress.end, start)) {
+      found = find_line_end(found + line_end_length, progress.end);
+    }
     if (found == nullptr) return true;
     auto* const statement = parser.records.make<tivex_stmt_t>();
     if (statement == nullptr) return false;

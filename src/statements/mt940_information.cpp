@@ -56,12 +56,13 @@ struct subfield_mark {
 // each subfield ends at the next mark.
 class rising_marks {
  public:
-  rising_marks(char* first, char* end) {
+  rising_marks(char* field, char* end) {
     int highest = no_subfield;
     subfield_mark* last = marks_;
-    all_rise_ = visit_places_of('?', first, end, [&](char* at) {
+    all_rise_ = visit_places_of('?', field, end, [&](char* at) {
       const int number = subfield_at(at, end);
-      if (number == no_subfield) return true;
+      // The first question mark has to be a mark.
+      if (number == no_subfield) return last != marks_;
       if (number <= highest) return false;
       highest = number;
       *last++ = {at, number};
@@ -119,7 +120,8 @@ bool is_purpose(int number) {
   return (number >= 20 && number <= 29) || (number >= 60 && number <= 63);
 }
 
-void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* content, char* end) {
+inline void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* content,
+                  char* end) {
   if (is_purpose(number)) return purpose.add(content, end);
   const std::string_view text = between(content, end);
   switch (number) {
@@ -153,18 +155,16 @@ void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* cont
 
 void read_subfields(tivex_stmt_tx_t& entry, char* field, char* end) {
   purpose_text purpose(entry);
-  char* mark = find_mark(field, end);
-  int number = subfield_at(mark, end);
-  if (number == no_subfield) return;
-  if (const rising_marks marks(mark, end); marks.all_rise()) {
+  if (const rising_marks marks(field, end); marks.all_rise()) {
     for (const subfield_mark* each = marks.begin(); each != marks.end(); ++each) {
       char* const content_end = each + 1 != marks.end() ? (each + 1)->at : end;
       store(entry, purpose, each->number, each->at + mark_length, content_end);
     }
     return;
   }
+  char* mark = find_mark(field, end);
   const subfields marks(mark, end);
-  while (number != no_subfield) {
+  for (int number = subfield_at(mark, end); number != no_subfield;) {
     char* const content = mark + mark_length;
     mark = marks.end_of(number, content);
     const int next_number = subfield_at(mark, end);

@@ -6,44 +6,10 @@
 
 namespace tivex {
 
-char* find_line_end(char* from, char* end, std::string_view followed_by) {
-  while (from < end) {
-    auto* const found =
-        static_cast<char*>(std::memchr(from, '\r', static_cast<std::size_t>(end - from)));
-    if (found == nullptr) return nullptr;
-    from = found + 1;
-    if (from < end && *from == '\n' && starts_with(from + 1, end, followed_by)) return found;
-  }
-  return nullptr;
-}
-
 void point_for_comma(char* from, const char* to) {
   auto* const comma =
       static_cast<char*>(std::memchr(from, ',', static_cast<std::size_t>(to - from)));
   if (comma != nullptr) *comma = '.';
-}
-
-bool number_scanner::skip_to_digits(std::size_t& width) {
-  while (!rest_.empty() && is_space(rest_.front())) rest_.remove_prefix(1);
-  const bool negative = rest_.starts_with('-');
-  if ((negative || rest_.starts_with('+')) && width > 0) {
-    rest_.remove_prefix(1);
-    --width;
-  }
-  return negative;
-}
-
-bool number_scanner::read_signed(std::size_t width, int& value) {
-  const bool negative = skip_to_digits(width);
-  const char* const digits = rest_.data();
-  const char* const limit = digits + std::min(width, rest_.size());
-  const char* at = digits;
-  int number = 0;
-  for (; at < limit && is_digit(*at); ++at) number = number * 10 + (*at - '0');
-  if (at == digits) return false;
-  rest_.remove_prefix(static_cast<std::size_t>(at - digits));
-  value = negative ? -number : number;
-  return true;
 }
 
 bool number_scanner::read_unsigned(std::uint32_t& value) {
