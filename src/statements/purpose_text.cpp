@@ -18,13 +18,14 @@ struct keyword_row {
   bool is_amount = false;  // its decimal comma becomes a point
 };
 
+// The most frequent ones stand in front.
 constexpr keyword_row keywords[] = {
-    {"EREF+", &tivex_stmt_tx_t::eref},       {"KREF+", &tivex_stmt_tx_t::kref},
+    {"EREF+", &tivex_stmt_tx_t::eref},       {"SVWZ+", &tivex_stmt_tx_t::svwz},
     {"MREF+", &tivex_stmt_tx_t::mref},       {"CRED+", &tivex_stmt_tx_t::cred},
-    {"DEBT+", &tivex_stmt_tx_t::debt},       {"PURP+", &tivex_stmt_tx_t::purp},
+    {"KREF+", &tivex_stmt_tx_t::kref},       {"ABWA+", &tivex_stmt_tx_t::abwa},
+    {"ABWE+", &tivex_stmt_tx_t::abwe},       {"PURP+", &tivex_stmt_tx_t::purp},
     {"COAM+", &tivex_stmt_tx_t::coam, true}, {"OAMT+", &tivex_stmt_tx_t::oamt, true},
-    {"SVWZ+", &tivex_stmt_tx_t::svwz},       {"ABWA+", &tivex_stmt_tx_t::abwa},
-    {"ABWE+", &tivex_stmt_tx_t::abwe},
+    {"DEBT+", &tivex_stmt_tx_t::debt},
 };
 
 }  // namespace

@@ -130,22 +130,28 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
   EXPECT_EQ(watch.blocks_with_text(), 0u);
 }
 
-// The text of the file, and the amounts of the records.
+// The text of the file, and the amounts of the records, in blocks of every size.
 TEST(StatementParser, WipesWhatItReleases) {
-  const std::string text =
-      "\r\n:20:R\r\n:60F:C240131EUR76543,21" +
-      repeated("\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,00NTRF", 50) + "\r\n";
-  for (const std::string& bytes : {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
-    const temporary_file file(text);
-    const runtime_control::released_text_watch watch(bytes);
-    parser_ptr parser = new_parser();
-    ASSERT_EQ(load(parser, file.path), 1);
-    const tivex_stmt_t* const statement = tivex_stmt_parser_getStatement(parser.get());
-    ASSERT_EQ(statement->opening_balance, 76543.21);
-    ASSERT_EQ(statement->first_tx->amount, 12345.67);
-    parser.reset();
-    EXPECT_EQ(watch.blocks(), 7u) << "parser, state, text and four blocks of records";
-    EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
+  const struct {
+    int entries;
+    std::size_t blocks_of_records;
+  } rows[] = {{50, 4}, {80'000, 11}};
+  for (const auto& [entries, blocks_of_records] : rows) {
+    const temporary_file file(
+        "\r\n:20:R\r\n:60F:C240131EUR76543,21" +
+        repeated("\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,00NTRF", entries) + "\r\n");
+    for (const std::string& bytes :
+         {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
+      const runtime_control::released_text_watch watch(bytes);
+      parser_ptr parser = new_parser();
+      ASSERT_EQ(load(parser, file.path), 1);
+      const tivex_stmt_t* const statement = tivex_stmt_parser_getStatement(parser.get());
+      ASSERT_EQ(statement->opening_balance, 76543.21);
+      ASSERT_EQ(statement->first_tx->amount, 12345.67);
+      parser.reset();
+      EXPECT_EQ(watch.blocks(), 3 + blocks_of_records) << "with parser, state and text";
+      EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
+    }
   }
 }
 
