@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(PartsOfATextOf, Wiping, testing::Values("386011117", "1
 TEST(WipingOfMemory, ReachesEveryByteOfABlockAndNoOther) {
   const std::size_t large = std::size_t{4} << 20;
   for (const std::size_t size : {large - 1, large, large + 5, large + 31}) {
-    for (const std::size_t place : {1, 16, 17, 31}) {
+    for (const std::size_t place : {1u, 16u, 17u, 31u}) {
       std::string block(size + 64, 'x');
       tivex::platform::wipe(block.data() + place, size);
       EXPECT_EQ(block.find('\0'), place);

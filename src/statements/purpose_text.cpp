@@ -13,19 +13,19 @@ namespace {
 constexpr std::size_t keyword_length = 5;
 
 struct keyword_row {
-  char keyword[keyword_length + 1];
   char* tivex_stmt_tx_t::*field;
+  char keyword[keyword_length + 1];
   bool is_amount = false;  // its decimal comma becomes a point
 };
 
 // The most frequent ones stand in front.
 constexpr keyword_row keywords[] = {
-    {"EREF+", &tivex_stmt_tx_t::eref},       {"SVWZ+", &tivex_stmt_tx_t::svwz},
-    {"MREF+", &tivex_stmt_tx_t::mref},       {"CRED+", &tivex_stmt_tx_t::cred},
-    {"KREF+", &tivex_stmt_tx_t::kref},       {"ABWA+", &tivex_stmt_tx_t::abwa},
-    {"ABWE+", &tivex_stmt_tx_t::abwe},       {"PURP+", &tivex_stmt_tx_t::purp},
-    {"COAM+", &tivex_stmt_tx_t::coam, true}, {"OAMT+", &tivex_stmt_tx_t::oamt, true},
-    {"DEBT+", &tivex_stmt_tx_t::debt},
+    {&tivex_stmt_tx_t::eref, "EREF+"},       {&tivex_stmt_tx_t::svwz, "SVWZ+"},
+    {&tivex_stmt_tx_t::mref, "MREF+"},       {&tivex_stmt_tx_t::cred, "CRED+"},
+    {&tivex_stmt_tx_t::kref, "KREF+"},       {&tivex_stmt_tx_t::abwa, "ABWA+"},
+    {&tivex_stmt_tx_t::abwe, "ABWE+"},       {&tivex_stmt_tx_t::purp, "PURP+"},
+    {&tivex_stmt_tx_t::coam, "COAM+", true}, {&tivex_stmt_tx_t::oamt, "OAMT+", true},
+    {&tivex_stmt_tx_t::debt, "DEBT+"},
 };
 
 }  // namespace

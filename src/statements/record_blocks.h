@@ -17,7 +17,8 @@ class record_blocks {
   // exhausted. It stays where it is until all are released.
   template <class record>
   record* make() {
-    static_assert(alignof(record) <= alignof(block) && sizeof(record) < smallest_block / 2);
+    static_assert(sizeof(record) < smallest_block / 2);
+    static_assert(sizeof(block) % alignof(record) == 0);
     void* const place = room_for(sizeof(record));
     return static_cast<record*>(place);
   }

@@ -40,9 +40,10 @@ mantissa read_mantissa(const char*& text) {
   const std::int64_t behind_point = point != nullptr ? text - point - 1 : 0;
   const std::int64_t counted = std::min<std::int64_t>(digits, counted_digits);
 
+  const std::int64_t first = integer / second_integer_limit;
+  const std::int64_t second = integer % second_integer_limit;
   mantissa result;
-  result.value = static_cast<double>(integer / second_integer_limit) * 1e9 +
-                 static_cast<double>(integer % second_integer_limit);
+  result.value = static_cast<double>(first) * 1e9 + static_cast<double>(second);
   result.shift = digits - counted - behind_point;
   result.has_digits = digits > 0;
   return result;
