@@ -115,8 +115,11 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
     const runtime_control::failing_allocation failing(n);
     const parser_ptr parser = new_parser();
     if (!parser) continue;
+    const std::size_t released = watch.blocks();
     const int result = load(parser, file.path);
     happened = failing.happened();
+    // Parser, state and text are the first three; nothing may point into a lost text.
+    EXPECT_EQ(watch.blocks() - released, happened && n > 3 ? n - 3 : 0) << n;
     EXPECT_EQ(result, happened ? 0 : 1) << n;
     EXPECT_EQ(tivex_stmt_parser_getStatement(parser.get()) == nullptr, happened) << n;
     std::string error = tivex_stmt_parser_getError(parser.get());
