@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "platform/platform.h"
 #include "support/messages.h"
 #include "support/runtime_control.h"
 
@@ -54,6 +55,19 @@ TEST_P(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
 }
 
 INSTANTIATE_TEST_SUITE_P(PartsOfATextOf, Wiping, testing::Values("386011117", "1117947"));
+
+TEST(WipingOfMemory, ReachesEveryByteOfABlockAndNoOther) {
+  const std::size_t large = std::size_t{4} << 20;
+  for (const std::size_t size : {large - 1, large, large + 5, large + 31}) {
+    for (const std::size_t place : {1u, 16u, 17u, 31u}) {
+      std::string block(size + 64, 'x');
+      tivex::platform::wipe(block.data() + place, size);
+      EXPECT_EQ(block.find('\0'), place);
+      EXPECT_EQ(block.find('x', place), place + size);
+      EXPECT_EQ(block.find_last_of('\0'), place + size - 1);
+    }
+  }
+}
 
 // The amount of a record stands in no text.
 TEST(WipingOfRecords, OverwritesTheNumbersOfRecords) {

@@ -23,17 +23,29 @@ calendar_time utc_calendar(std::time_t moment) {
 
 std::uint32_t process_id() { return static_cast<std::uint32_t>(getpid()); }
 
-void expect_writing(void* memory, std::size_t size) {
-#ifdef MADV_POPULATE_WRITE
-  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-  const std::uintptr_t within_page = reinterpret_cast<std::uintptr_t>(memory) % page;
-  // A hint: older systems refuse it, and errno is the host's.
+namespace {
+
+// Tells the system what is meant to be done with whole pages of memory. A wish: where it
+// is refused, the memory serves as well, and errno is the host's.
+[[maybe_unused]] void advise(void* memory, std::size_t size, int advice) {
+  const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  const std::size_t in_front = reinterpret_cast<std::uintptr_t>(memory) % page;
   const int error = errno;
-  madvise(static_cast<char*>(memory) - within_page, size + within_page, MADV_POPULATE_WRITE);
+  static_cast<void>(madvise(static_cast<char*>(memory) - in_front, size + in_front, advice));
   errno = error;
-#else
-  static_cast<void>(memory);
-  static_cast<void>(size);
+}
+
+}  // namespace
+
+void expect_writing([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) {
+#ifdef MADV_POPULATE_WRITE
+  advise(memory, size, MADV_POPULATE_WRITE);
+#endif
+}
+
+void prefer_large_pages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) {
+#ifdef MADV_HUGEPAGE
+  if (size >= large_block) advise(memory, size, MADV_HUGEPAGE);
 #endif
 }
 

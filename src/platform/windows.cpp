@@ -22,4 +22,7 @@ std::uint32_t process_id() { return GetCurrentProcessId(); }
 
 void expect_writing(void* /*memory*/, std::size_t /*size*/) {}
 
+// Large pages need a privilege here.
+void prefer_large_pages(void* /*memory*/, std::size_t /*size*/) {}
+
 }  // namespace tivex::platform

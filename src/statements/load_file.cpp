@@ -66,6 +66,7 @@ int load_file(statement_parser& parser, const char* path) {
     // A long is too short for the size on some systems.
     return parser.fail("Failed to allocate %lli bytes", static_cast<long long>(size));
   }
+  platform::prefer_large_pages(block.text, block.size);
   if (!read_whole(file, block.text, wanted)) {
     return fail_with_reason(parser, "Error while reading from file", errno);
   }

@@ -1,6 +1,3 @@
-#include <algorithm>
-
-#include "core/wiped_object.h"
 #include "statements/mt940_dates.h"
 #include "statements/mt940_lines.h"
 #include "transactions/decimal.h"
@@ -13,24 +10,21 @@ namespace {
 constexpr std::size_t tag_length = 4;  // ":61:"
 
 // Null when memory is exhausted.
-tivex_stmt_tx_t* append_entry(tivex_stmt_t& statement) {
-  tivex_stmt_tx_t* const entry = make_wiped<tivex_stmt_tx_t>().release();
+tivex_stmt_tx_t* append_entry(record_blocks& records, tivex_stmt_t& statement) {
+  auto* const entry = records.make<tivex_stmt_tx_t>();
   if (entry == nullptr) return nullptr;
   (statement.last_tx == nullptr ? statement.first_tx : statement.last_tx->next) = entry;
   statement.last_tx = entry;
   return entry;
 }
 
-bool all_digits(std::string_view text) { return std::all_of(text.begin(), text.end(), is_digit); }
-
 // Reads MMDD. The year is that of the value date, or its neighbour when the year
 // turns between the two dates. Nothing when there are no four digits.
 bool read_entry_date(std::string_view characters, int value_year, int value_month, std::tm& date) {
   constexpr std::size_t length = 4;
   if (characters.size() < length || !all_digits(characters)) return false;
-  number_scanner scanner(characters);
-  scanner.read_signed(2, date.tm_mon);
-  scanner.read_signed(2, date.tm_mday);
+  date.tm_mon = two_digits(characters.data());
+  date.tm_mday = two_digits(characters.data() + 2);
   date.tm_year = value_year;
   if (value_month == 12 && date.tm_mon == 1) ++date.tm_year;
   if (value_month == 1 && date.tm_mon == 12) --date.tm_year;
@@ -65,7 +59,7 @@ void read_references(mt940_progress& progress, char* from) {
 }  // namespace
 
 line_outcome read_entry(mt940_progress& progress) {
-  tivex_stmt_tx_t* const entry = append_entry(*progress.statement);
+  tivex_stmt_tx_t* const entry = append_entry(progress.records, *progress.statement);
   if (entry == nullptr) return line_outcome::no_memory;
   progress.entry = entry;
 

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "statements/mt940_lines.h"
+#include "statements/places.h"
 #include "statements/purpose_text.h"
 #include "validation/ascii.h"
 
@@ -15,16 +16,18 @@ constexpr std::size_t mark_length = 3;  // "?20"
 constexpr int subfield_count = 100;
 constexpr int no_subfield = -1;
 
-// Removes the line ends from a field and ends it with NUL. Returns its new end.
-char* join_lines(char* from, char* end) {
-  char* to = from;
-  while (from < end) {
-    char* line_end = find_line_end(from, end);
-    if (line_end == nullptr) line_end = end;
+// Removes the line ends in front of the next tag, which must follow, and ends the field
+// with NUL. `line_end` is the first of them and becomes the last. Returns the field's new
+// end.
+char* join_lines(char*& line_end, char* end) {
+  char* to = line_end;
+  for (;;) {
+    char* const from = line_end + 2;
+    if (*from == ':') break;
+    line_end = find_line_end(from, end);
     const auto length = static_cast<std::size_t>(line_end - from);
     std::memmove(to, from, length);
     to += length;
-    from = line_end + 2;
   }
   *to = '\0';
   return to;
@@ -44,16 +47,51 @@ char* find_mark(char* from, char* end) {
   return found == nullptr ? end : found;
 }
 
-// The subfields of a field, whose numbers rise. A question mark may also stand in a
-// text: a subfield ends at the first mark with a higher number, or rather at the last
-// mark behind that with the next number.
+struct subfield_mark {
+  char* at;
+  int number;
+};
+
+// The marks of a field whose numbers rise from each to the next, as they mostly do: then
+// each subfield ends at the next mark.
+class rising_marks {
+ public:
+  rising_marks(char* field, char* end) {
+    int highest = no_subfield;
+    subfield_mark* last = marks_;
+    all_rise_ = visit_places_of('?', field, end, [&](char* at) {
+      const int number = subfield_at(at, end);
+      // The first question mark has to be a mark.
+      if (number == no_subfield) return last != marks_;
+      if (number <= highest) return false;
+      highest = number;
+      *last++ = {at, number};
+      return true;
+    });
+    last_ = last;
+  }
+
+  bool all_rise() const { return all_rise_; }
+  const subfield_mark* begin() const { return marks_; }
+  const subfield_mark* end() const { return last_; }
+
+ private:
+  subfield_mark marks_[subfield_count];
+  subfield_mark* last_;  // behind the last one
+  bool all_rise_;
+};
+
+// The marks of any field. A question mark may also stand in a text: a subfield ends at
+// the first mark with a higher number, or rather at the last mark behind that with the
+// next number.
 class subfields {
  public:
   subfields(char* field, char* end) : end_(end) {
-    for (char* at = find_mark(field, end); at < end; at = find_mark(at + 1, end)) {
-      const int number = subfield_at(at, end);
+    visit_places_of('?', field, end, [this](char* at) {
+      const int number = subfield_at(at, end_);
       if (number != no_subfield) last_[number] = at;
-    }
+      return true;
+    });
   }
 
   // Where the content behind a mark with this number ends.
@@ -82,7 +120,8 @@ bool is_purpose(int number) {
   return (number >= 20 && number <= 29) || (number >= 60 && number <= 63);
 }
 
-void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* content, char* end) {
+inline void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* content,
+                  char* end) {
   if (is_purpose(number)) return purpose.add(content, end);
   const std::string_view text = between(content, end);
   switch (number) {
@@ -115,9 +154,16 @@ void store(tivex_stmt_tx_t& entry, purpose_text& purpose, int number, char* cont
 }
 
 void read_subfields(tivex_stmt_tx_t& entry, char* field, char* end) {
-  const subfields marks(field, end);
   purpose_text purpose(entry);
+  if (const rising_marks marks(field, end); marks.all_rise()) {
+    for (const subfield_mark* each = marks.begin(); each != marks.end(); ++each) {
+      char* const content_end = each + 1 != marks.end() ? (each + 1)->at : end;
+      store(entry, purpose, each->number, each->at + mark_length, content_end);
+    }
+    return;
+  }
   char* mark = find_mark(field, end);
+  const subfields marks(mark, end);
   for (int number = subfield_at(mark, end); number != no_subfield;) {
     char* const content = mark + mark_length;
     mark = marks.end_of(number, content);
@@ -132,13 +178,12 @@ void read_subfields(tivex_stmt_tx_t& entry, char* field, char* end) {
 line_outcome read_information(mt940_progress& progress) {
   if (progress.entry == nullptr) return line_outcome::statement_ends;
   char* const field = progress.at(tag_length);
-  char* const next_tag = find_line_end(progress.line, progress.end, ":");
-  char* const field_end = next_tag == nullptr ? progress.end : join_lines(field, next_tag);
+  const bool ends = progress.line_end != nullptr && progress.last_tag.is_behind(progress.line_end);
+  char* const field_end = ends ? join_lines(progress.line_end, progress.end) : progress.end;
   number_scanner(between(field, field_end)).read_signed(3, progress.entry->gvc);
   // Without a tag behind it the field's end is unknown.
-  if (next_tag == nullptr) return line_outcome::statement_ends;
+  if (!ends) return line_outcome::statement_ends;
   read_subfields(*progress.entry, field, field_end);
-  progress.line_end = next_tag;
   return line_outcome::next_line;
 }
 

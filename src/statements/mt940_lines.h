@@ -2,6 +2,7 @@
 #pragma once
 
 #include "statements/mt940_text.h"
+#include "statements/record_blocks.h"
 #include "tivex.h"
 
 namespace tivex {
@@ -11,16 +12,23 @@ enum class line_outcome { next_line, statement_ends, no_memory };
 
 // Where parsing stands.
 struct mt940_progress {
-  mt940_progress(char* text, char* text_end)
-      : end(text_end), line(text), next_n('N', text_end), next_comma(',', text_end) {}
+  mt940_progress(char* text, char* text_end, record_blocks& made)
+      : end(text_end),
+        line(text),
+        records(made),
+        next_n('N', text_end),
+        next_comma(',', text_end),
+        last_tag(text, text_end) {}
 
   char* end;                 // of the text
   char* line;                // its first character
   char* line_end = nullptr;  // its CR; null when no line end follows
+  record_blocks& records;
   tivex_stmt_t* statement = nullptr;
   tivex_stmt_tx_t* entry = nullptr;  // the last one, be it of an earlier statement
   next_character next_n;
   next_character next_comma;
+  last_tag_start last_tag;
 
   // The line's end, or the text's.
   char* line_limit() const { return line_end == nullptr ? end : line_end; }

@@ -6,44 +6,10 @@
 
 namespace tivex {
 
-char* find_line_end(char* from, char* end, std::string_view followed_by) {
-  while (from < end) {
-    auto* const found =
-        static_cast<char*>(std::memchr(from, '\r', static_cast<std::size_t>(end - from)));
-    if (found == nullptr) return nullptr;
-    from = found + 1;
-    if (from < end && *from == '\n' && starts_with(from + 1, end, followed_by)) return found;
-  }
-  return nullptr;
-}
-
 void point_for_comma(char* from, const char* to) {
   auto* const comma =
       static_cast<char*>(std::memchr(from, ',', static_cast<std::size_t>(to - from)));
   if (comma != nullptr) *comma = '.';
-}
-
-bool number_scanner::skip_to_digits(std::size_t& width) {
-  while (!rest_.empty() && is_space(rest_.front())) rest_.remove_prefix(1);
-  const bool negative = rest_.starts_with('-');
-  if ((negative || rest_.starts_with('+')) && width > 0) {
-    rest_.remove_prefix(1);
-    --width;
-  }
-  return negative;
-}
-
-bool number_scanner::read_signed(std::size_t width, int& value) {
-  const bool negative = skip_to_digits(width);
-  int number = 0;
-  bool any = false;
-  for (; width > 0 && !rest_.empty() && is_digit(rest_.front()); --width) {
-    number = number * 10 + (rest_.front() - '0');
-    rest_.remove_prefix(1);
-    any = true;
-  }
-  if (any) value = negative ? -number : number;
-  return any;
 }
 
 bool number_scanner::read_unsigned(std::uint32_t& value) {
@@ -81,6 +47,15 @@ char* next_character::find(char* from) {
       static_cast<char*>(std::memchr(from, character_, static_cast<std::size_t>(end_ - from)));
   found_ = found == nullptr ? end_ : found;
   return found_;
+}
+
+bool last_tag_start::is_behind(const char* line_end) {
+  constexpr std::string_view tag_start = "\r\n:";
+  if (found_ == nullptr) {
+    found_ = end_;
+    while (found_ > text_ && !starts_with(found_, end_, tag_start)) --found_;
+  }
+  return found_ >= line_end && starts_with(found_, end_, tag_start);
 }
 
 }  // namespace tivex

@@ -1,16 +1,27 @@
 // Reading steps on a text of known end, none of which goes past it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
 
+#include "validation/ascii.h"
+
 namespace tivex {
 
-// The next CR LF that these characters follow; null when there is none. What goes
-// before `from` is not looked at.
-char* find_line_end(char* from, char* end, std::string_view followed_by = "");
+// The next CR LF; null when there is none. What goes before `from` is not looked at.
+inline char* find_line_end(char* from, const char* end) {
+  while (from < end) {
+    auto* const found =
+        static_cast<char*>(std::memchr(from, '\r', static_cast<std::size_t>(end - from)));
+    // A text is followed by NUL.
+    if (found == nullptr || found[1] == '\n') return found;
+    from = found + 1;
+  }
+  return nullptr;
+}
 
 inline bool starts_with(const char* at, const char* end, std::string_view text) {
   if (static_cast<std::size_t>(end - at) < text.size()) return false;
@@ -30,6 +41,13 @@ inline char* step(char* at, const char* end, std::size_t count) {
 inline std::string_view between(const char* from, const char* to) {
   return {from, static_cast<std::size_t>(to - from)};
 }
+
+inline bool all_digits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), is_digit);
+}
+
+// Of two digits.
+inline int two_digits(const char* at) { return (at[0] - '0') * 10 + (at[1] - '0'); }
 
 // Copies as much as there is room for, behind the bytes that are used already.
 template <std::size_t size>
@@ -64,6 +82,29 @@ class number_scanner {
   std::string_view rest_;
 };
 
+inline bool number_scanner::skip_to_digits(std::size_t& width) {
+  while (!rest_.empty() && is_space(rest_.front())) rest_.remove_prefix(1);
+  const bool negative = rest_.starts_with('-');
+  if ((negative || rest_.starts_with('+')) && width > 0) {
+    rest_.remove_prefix(1);
+    --width;
+  }
+  return negative;
+}
+
+inline bool number_scanner::read_signed(std::size_t width, int& value) {
+  const bool negative = skip_to_digits(width);
+  const char* const digits = rest_.data();
+  const char* const limit = digits + std::min(width, rest_.size());
+  const char* at = digits;
+  int number = 0;
+  for (; at < limit && is_digit(*at); ++at) number = number * 10 + (*at - '0');
+  if (at == digits) return false;
+  rest_.remove_prefix(static_cast<std::size_t>(at - digits));
+  value = negative ? -number : number;
+  return true;
+}
+
 // The first of one character from a place on, for places that only grow: each
 // stretch of the text is searched once.
 class next_character {
@@ -77,6 +118,21 @@ class next_character {
   char character_;
   char* end_;
   char* found_ = nullptr;
+};
+
+// The last place of a text where a tag may begin a line. It is searched when it is first
+// asked for; lines that are asked about later must still be as they were.
+class last_tag_start {
+ public:
+  last_tag_start(char* text, char* end) : text_(text), end_(end) {}
+
+  // Whether the CR LF in front of it stands at this line end or behind.
+  bool is_behind(const char* line_end);
+
+ private:
+  char* text_;
+  char* end_;
+  const char* found_ = nullptr;
 };
 
 }  // namespace tivex

@@ -14,23 +14,7 @@ mt940_state::~mt940_state() {
   std::free(text);
 }
 
-statement_parser::~statement_parser() {
-  release_statements(first);
-  destroy_wiped(mt940);
-}
-
-void release_statements(tivex_stmt_t* first) {
-  while (first != nullptr) {
-    tivex_stmt_t* const statement = first;
-    first = statement->next;
-    for (tivex_stmt_tx_t* entry = statement->first_tx; entry != nullptr;) {
-      tivex_stmt_tx_t* const done = entry;
-      entry = entry->next;
-      destroy_wiped(done);
-    }
-    destroy_wiped(statement);
-  }
-}
+statement_parser::~statement_parser() { destroy_wiped(mt940); }
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/bounded_format.h"
+#include "statements/record_blocks.h"
 #include "tivex.h"
 
 namespace tivex {
@@ -26,6 +27,7 @@ struct statement_parser {
   mt940_state* mt940;
   tivex_stmt_t* first;
   tivex_stmt_t* last;
+  record_blocks records;
 
   statement_parser() = default;
   ~statement_parser();
@@ -39,9 +41,6 @@ struct statement_parser {
     return 0;
   }
 };
-
-// Releases statements with their entries.
-void release_statements(tivex_stmt_t* first);
 
 }  // namespace tivex
 

@@ -17,7 +17,7 @@ constexpr std::array<double, 9> powers_of_ten = {1e1,  1e2,  1e4,   1e8,  1e16,
                                                  1e32, 1e64, 1e128, 1e256};
 constexpr std::int64_t largest_exponent = 511;
 constexpr int counted_digits = 18;
-constexpr int digits_of_second_integer = 9;
+constexpr std::int64_t second_integer_limit = 1'000'000'000;  // nine digits
 
 struct mantissa {
   double value = 0.0;
@@ -27,25 +27,21 @@ struct mantissa {
 
 // Reads digits with at most one point among them and steps over them.
 mantissa read_mantissa(const char*& text) {
-  const char* const start = text;
   const char* point = nullptr;
+  std::int64_t digits = 0;
+  std::int64_t integer = 0;  // the counted ones
   for (; is_digit(*text) || (*text == '.' && point == nullptr); ++text) {
-    if (*text == '.') point = text;
+    if (*text == '.') {
+      point = text;
+    } else if (++digits <= counted_digits) {
+      integer = integer * 10 + (*text - '0');
+    }
   }
-  const std::int64_t digits = text - start - (point != nullptr ? 1 : 0);
   const std::int64_t behind_point = point != nullptr ? text - point - 1 : 0;
   const std::int64_t counted = std::min<std::int64_t>(digits, counted_digits);
 
-  std::int64_t first = 0;
-  std::int64_t second = 0;
-  const char* next = start;
-  for (std::int64_t left = counted; left > 0; ++next) {
-    if (next == point) continue;
-    std::int64_t& integer = left > digits_of_second_integer ? first : second;
-    integer = integer * 10 + (*next - '0');
-    --left;
-  }
-
+  const std::int64_t first = integer / second_integer_limit;
+  const std::int64_t second = integer % second_integer_limit;
   mantissa result;
   result.value = static_cast<double>(first) * 1e9 + static_cast<double>(second);
   result.shift = digits - counted - behind_point;

@@ -17,6 +17,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+std::string repeated(const std::string& part, int times) {
+  std::string text;
+  for (; times > 0; --times) text += part;
+  return text;
+}
+
 std::string bytes_of(double number) {
   return {reinterpret_cast<const char*>(&number), sizeof number};
 }
@@ -100,6 +106,8 @@ TEST(StatementParser, NeedsItsStateAndAText) {
 }
 
 TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
+  // Enough for several blocks of records.
+  const temporary_file file(repeated(content_of(example), 100));
   bool happened = true;
   std::set<std::string> errors;
   const runtime_control::released_text_watch watch("SVWZ+");
@@ -107,14 +115,17 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
     const runtime_control::failing_allocation failing(n);
     const parser_ptr parser = new_parser();
     if (!parser) continue;
-    const int result = load(parser, example);
+    const std::size_t released = watch.blocks();
+    const int result = load(parser, file.path);
     happened = failing.happened();
+    // Parser, state and text are the first three; nothing may point into a lost text.
+    EXPECT_EQ(watch.blocks() - released, happened && n > 3 ? n - 3 : 0) << n;
     EXPECT_EQ(result, happened ? 0 : 1) << n;
     EXPECT_EQ(tivex_stmt_parser_getStatement(parser.get()) == nullptr, happened) << n;
     std::string error = tivex_stmt_parser_getError(parser.get());
     errors.insert(error.substr(0, error.find(" bytes")));
   }
-  const std::string size = std::to_string(fs::file_size(example));
+  const std::string size = std::to_string(fs::file_size(file.path));
   EXPECT_EQ(errors, (std::set<std::string>{
                         "", "Error while allocating " + std::to_string(sizeof(tivex::mt940_state)),
                         "Failed to allocate " + size}));
@@ -122,22 +133,28 @@ TEST(StatementParser, LosesNothingWhenMemoryIsExhausted) {
   EXPECT_EQ(watch.blocks_with_text(), 0u);
 }
 
-// The text of the file, and the amounts of the records.
+// The text of the file, and the amounts of the records, in blocks of every size.
 TEST(StatementParser, WipesWhatItReleases) {
-  const std::string text =
-      "\r\n:20:R\r\n:60F:C240131EUR76543,21\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,"
-      "00NTRF\r\n";
-  for (const std::string& bytes : {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
-    const temporary_file file(text);
-    const runtime_control::released_text_watch watch(bytes);
-    parser_ptr parser = new_parser();
-    ASSERT_EQ(load(parser, file.path), 1);
-    const tivex_stmt_t* const statement = tivex_stmt_parser_getStatement(parser.get());
-    ASSERT_EQ(statement->opening_balance, 76543.21);
-    ASSERT_EQ(statement->first_tx->amount, 12345.67);
-    parser.reset();
-    EXPECT_EQ(watch.blocks(), 6u) << "parser, state, text, statement and two entries";
-    EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
+  const struct {
+    int entries;
+    std::size_t blocks_of_records;
+  } rows[] = {{50, 4}, {80'000, 11}};
+  for (const auto& [entries, blocks_of_records] : rows) {
+    const temporary_file file(
+        "\r\n:20:R\r\n:60F:C240131EUR76543,21" +
+        repeated("\r\n:61:240131C12345,67NTRFSECRET\r\n:61:240131C1,00NTRF", entries) + "\r\n");
+    for (const std::string& bytes :
+         {std::string("SECRET"), bytes_of(12345.67), bytes_of(76543.21)}) {
+      const runtime_control::released_text_watch watch(bytes);
+      parser_ptr parser = new_parser();
+      ASSERT_EQ(load(parser, file.path), 1);
+      const tivex_stmt_t* const statement = tivex_stmt_parser_getStatement(parser.get());
+      ASSERT_EQ(statement->opening_balance, 76543.21);
+      ASSERT_EQ(statement->first_tx->amount, 12345.67);
+      parser.reset();
+      EXPECT_EQ(watch.blocks(), 3 + blocks_of_records) << "with parser, state and text";
+      EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
+    }
   }
 }
 

@@ -1,0 +1,52 @@
+// The statements and entries of a parser, one behind the other in a few blocks.
+#pragma once
+
+#include <cstddef>
+#include <new>
+
+namespace tivex {
+
+class record_blocks {
+ public:
+  record_blocks() = default;
+  record_blocks(const record_blocks&) = delete;
+  record_blocks& operator=(const record_blocks&) = delete;
+  ~record_blocks() { release(); }
+
+  // A new record with every field at its initial value, or null when memory is
+  // exhausted. It stays where it is until all are released.
+  template <class record>
+  record* make() {
+    static_assert(sizeof(record) < smallest_block / 2);
+    static_assert(sizeof(block) % alignof(record) == 0);
+    void* const place = room_for(sizeof(record));
+    return static_cast<record*>(place);
+  }
+
+  // Overwrites the records with zeros and releases them.
+  void release();
+
+ private:
+  // The head of a block; the records stand behind it, on a place that is good for any.
+  struct alignas(std::max_align_t) block {
+    block* next;  // the one filled before
+    std::size_t capacity;
+    std::size_t used;
+  };
+
+  static constexpr std::size_t smallest_block = 4096;
+
+  void* room_for(std::size_t size) {
+    if (newest_ == nullptr || newest_->capacity - newest_->used < size) {
+      if (!add_block()) return nullptr;
+    }
+    char* const place = reinterpret_cast<char*>(newest_ + 1) + newest_->used;
+    newest_->used += size;
+    return place;
+  }
+  bool add_block();
+
+  block* newest_ = nullptr;
+};
+
+}  // namespace tivex
