@@ -6,7 +6,7 @@ namespace tivex {
 
 bool scan_date(std::string_view text, std::tm& date) {
   constexpr std::size_t width = 2;
-  if (text.size() >= date_length && all_digits(text.substr(0, date_length))) {
+  if (text.size() >= date_length && all_digits({text.data(), date_length})) {
     date.tm_year = two_digits(text.data());
     date.tm_mon = two_digits(text.data() + width);
     date.tm_mday = two_digits(text.data() + 2 * width);
