@@ -76,8 +76,6 @@ class StackWiping : public testing::Test {
 #ifdef TIVEX_STACKS_ARE_INSTRUMENTED
     GTEST_SKIP() << "the sanitizer keeps locals elsewhere";
 #endif
-    // At a host's first call the function is bound, with registers kept on the stack.
-    ASSERT_EQ(tivex_iban_check("DE89370400440532013000"), 1);
   }
   own_stack stack_;
 };
