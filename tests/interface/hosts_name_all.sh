@@ -5,8 +5,8 @@ set -eu
 wanted=$(mktemp)
 trap 'rm "$wanted"' EXIT
 
-# A symbol stands alone in a line, a constant with its value. The header's version has a
-# name of its own there: not all languages tell capitals from small letters.
+# The header's version has a name of its own there: not all languages tell capitals from
+# small letters.
 {
   sed 's/ DATA$//' "$1/src/exported_symbols.txt"
   sed -n 's/^#define \(TIVEX_[A-Z0-9_]*\) (*\([-0-9"][-.0-9x"]*\).*/\1 \2/p' "$1/include/tivex.h" |
@@ -18,8 +18,13 @@ for host in pascal/tivex.pas tivex.bas Tivex.cs; do
   # Texts and hexadecimal numbers as C writes them.
   text=$(sed "s/'/\"/g; s/[\$]\([0-9]\)/0x\1/g; s/&H/0x/g" "$1/examples/hosts/$host" | tr -d '\r')
   while read -r name value; do
-    pattern="$name${value:+( As [A-Z][a-z]*)? = $value([; ]|\$)}"
-    echo "$text" | grep -Eqw -e "$pattern" || { echo "$host lacks $name $value"; faults=1; }
+    if [ -n "$value" ]; then
+      pattern="(^|[^A-Z_])$name( As [A-Z][a-z]*)? = $value(;| |\$)"
+    else
+      pattern="([Ff]unction|procedure|Sub|extern [A-Za-z]*) $name($|[^A-Za-z0-9_])|\"$name\""
+    fi
+    printf '%s\n' "$text" | grep -Eq -e "$pattern" ||
+      { echo "$host lacks $name $value"; faults=1; }
   done <"$wanted"
 done
 exit $faults
