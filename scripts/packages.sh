@@ -18,7 +18,7 @@ install_packages() {
 # shellcheck disable=SC2034 # the lists are for those who source this file
 build_packages=(g++ cmake make libcli11-dev libcsv-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
-test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 git libbenchmark-dev
+test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 fp-compiler git libbenchmark-dev
   libclang-rt-14-dev libgtest-dev libjemalloc2 libmimalloc2.0 libtcmalloc-minimal4 libxml2-dev
   libxml2-utils locales-all pkgconf shellcheck)
 # shellcheck disable=SC2034
