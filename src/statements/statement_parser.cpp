@@ -4,6 +4,7 @@
 #include <cerrno>
 
 #include "core/wiped_object.h"
+#include "platform/float_traps.h"
 #include "platform/input_file.h"
 #include "statements/load_file.h"
 
@@ -41,6 +42,7 @@ tivex_stmt_parser_t* tivex_stmt_parser_new() {
 }
 
 int tivex_stmt_parser_load(tivex_stmt_parser_t* parser, int format, const char* path) {
+  const tivex::platform::float_traps_off traps_off;
   return parser == nullptr ? 0 : tivex::load(*parser, format, path);
 }
 

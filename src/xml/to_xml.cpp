@@ -1,4 +1,5 @@
 #include "core/message.h"
+#include "platform/float_traps.h"
 #include "tivex.h"
 #include "xml/credit_transfer_document.h"
 #include "xml/direct_debit_document.h"
@@ -21,6 +22,7 @@ bool write_document(message& msg, xml_buffer_t& out) {
 
 char* tivex_toXML(tivex_t* msg) {
   if (msg == nullptr) return nullptr;
+  const tivex::platform::float_traps_off traps_off;
   const tivex::xml_buffer_ptr out(tivex::xml_buffer_new());
   if (!out) return nullptr;
   if (!tivex::ensure_date(*msg)) {

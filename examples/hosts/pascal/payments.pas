@@ -6,7 +6,7 @@ program payments;
 {$mode objfpc}{$H+}
 
 uses
-  Math, tivex;
+  tivex;
 
 function fill_header(msg: ptivex_t): Boolean;
 begin
@@ -47,8 +47,6 @@ var
   document: PAnsiChar = nil;
   reason: PAnsiChar;
 begin
-  SetExceptionMask([exInvalidOp, exDenormalized, exZeroDivide, exOverflow, exUnderflow,
-    exPrecision]);
   if tivex_init(TIVEX_OPTION_RULEBOOK, 'DE-3.7') <> 1 then Halt(1);
   msg := tivex_new(TIVEX_CREDIT_TRANSFER);
   if msg = nil then Halt(1);

@@ -4,11 +4,7 @@
       fpc -Fl<folder of the library> payments.pas
 
   Texts are NUL-terminated and in UTF-8. Pass UTF-8 strings with PAnsiChar(...); the
-  library copies what it keeps.
-
-  Pascal lets a sum that is too large trap, C does not: an amount such as '1e400' would
-  leave tivex_add in the middle, where the library returns 0. So every thread that calls
-  tivex_add or tivex_toXML masks these traps first, as payments.pas does. }
+  library copies what it keeps. }
 unit tivex;
 
 {$mode objfpc}{$H+}
