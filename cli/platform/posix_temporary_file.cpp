@@ -1,5 +1,3 @@
-#include "temporary_file.h"
-
 #include <fcntl.h>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -11,9 +9,14 @@
 #include <utility>
 
 #include "exhausted_memory.h"
+#include "platform/temporary_file.h"
 
 namespace tivex_program {
 namespace {
+
+const char* name_of_folder(const std::string& folder) {
+  return folder.empty() ? "." : folder.c_str();
+}
 
 // No other file has it, or the next try has another.
 std::string passing_name(const std::string& folder) {
@@ -21,11 +24,47 @@ std::string passing_name(const std::string& folder) {
   return folder + ".tivex-" + std::to_string(::getpid()) + '-' + std::to_string(now);
 }
 
+bool link_as(const std::string& path, const std::string& folder, const std::string& target) {
+  const auto link = [&path](const char* name) {
+    return ::linkat(AT_FDCWD, path.c_str(), AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
+  };
+  if (link(target.c_str())) return true;
+  // A name that is taken is had by renaming only: for that moment there is another.
+  while (errno == EEXIST) {
+    const std::string name = passing_name(folder);
+    const signals_held held;
+    if (!link(name.c_str())) continue;
+    if (::rename(name.c_str(), target.c_str()) == 0) return true;
+    const int reason = errno;
+    ::unlink(name.c_str());
+    errno = reason;
+    return false;
+  }
+  return false;
+}
+
+// Some file systems cannot sync a folder, and not everyone may read it.
+bool sync_folder(const std::string& name) {
+  const descriptor folder(::open(name_of_folder(name), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return !folder || ::fsync(folder.number()) == 0 || errno != EIO;
+}
+
+mode_t new_file_mode() {
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  return 0666 & ~mask;
+}
+
+mode_t mode_of(const std::string& target) {
+  struct stat status {};
+  return ::stat(target.c_str(), &status) == 0 ? status.st_mode & 07777 : new_file_mode();
+}
+
 }  // namespace
 
 temporary_file::temporary_file(std::string folder) : folder_(std::move(folder)) {
 #ifdef O_TMPFILE
-  file_ = descriptor(::open(folder_name(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+  file_ = descriptor(::open(name_of_folder(folder_), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
   path_ = "/proc/self/fd/" + std::to_string(file_.number());
   if (file_ && ::access(path_.c_str(), F_OK) == 0) return;
 #endif
@@ -56,9 +95,9 @@ bool temporary_file::write(std::string_view text) const {
   return file_.write_all(text);
 }
 
-bool temporary_file::take_name(const std::string& target, mode_t mode) {
-  if (::fchmod(file_.number(), mode) != 0 || ::fsync(file_.number()) != 0) return false;
-  return (named_ ? rename_to(target) : link_as(target)) && sync_folder();
+bool temporary_file::take_name(const std::string& target) {
+  if (::fchmod(file_.number(), mode_of(target)) != 0 || ::fsync(file_.number()) != 0) return false;
+  return (named_ ? rename_to(target) : link_as(path_, folder_, target)) && sync_folder(folder_);
 }
 
 bool temporary_file::rename_to(const std::string& target) {
@@ -66,31 +105,6 @@ bool temporary_file::rename_to(const std::string& target) {
   named_ = false;
   remove_when_memory_ends(nullptr);
   return true;
-}
-
-bool temporary_file::link_as(const std::string& target) const {
-  const auto link = [this](const char* name) {
-    return ::linkat(AT_FDCWD, path_.c_str(), AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
-  };
-  if (link(target.c_str())) return true;
-  // A name that is taken is had by renaming only: for that moment there is another.
-  while (errno == EEXIST) {
-    const std::string name = passing_name(folder_);
-    const signals_held held;
-    if (!link(name.c_str())) continue;
-    if (::rename(name.c_str(), target.c_str()) == 0) return true;
-    const int reason = errno;
-    ::unlink(name.c_str());
-    errno = reason;
-    return false;
-  }
-  return false;
-}
-
-// Some file systems cannot sync a folder, and not everyone may read it.
-bool temporary_file::sync_folder() const {
-  const descriptor folder(::open(folder_name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  return !folder || ::fsync(folder.number()) == 0 || errno != EIO;
 }
 
 }  // namespace tivex_program
