@@ -48,7 +48,7 @@ std::string replace_file(const std::string& path, std::string_view text) {
   const std::string target = follow_links(path);
   // Renaming would replace a file that its owner has closed to writing.
   if (exists && ::access(target.c_str(), W_OK) != 0) return reason();
-  temporary_file file(target.substr(0, target.rfind('/') + 1));
+  temporary_file file(target.substr(0, target.rfind('/') + 1), access_meanwhile::own);
   return file.write(text) && file.take_name(target) ? "" : reason();
 }
 

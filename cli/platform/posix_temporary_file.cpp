@@ -62,7 +62,8 @@ mode_t mode_of(const std::string& target) {
 
 }  // namespace
 
-temporary_file::temporary_file(std::string folder) : folder_(std::move(folder)) {
+temporary_file::temporary_file(std::string folder, access_meanwhile /*access*/)
+    : folder_(std::move(folder)) {
 #ifdef O_TMPFILE
   file_ = descriptor(::open(name_of_folder(folder_), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
   path_ = "/proc/self/fd/" + std::to_string(file_.number());

@@ -9,14 +9,18 @@
 
 namespace tivex_program {
 
+// Whether others may open the file by its path before it has its name.
+enum class access_meanwhile { open_to_others, own };
+
 // A file that its owner alone can read, of which nothing stays unless it is given a
 // name. Where the system allows it has none before, so that not even a killed program
 // leaves it behind; elsewhere the signals that can be held back are, as long as it lives.
+// On Windows a file that is its own vanishes with the program, too.
 class temporary_file {
  public:
   // In a folder: "" is the current one, other names end with a separator. Whether there is
   // a file tells the first call of `write`.
-  explicit temporary_file(std::string folder);
+  temporary_file(std::string folder, access_meanwhile access);
   ~temporary_file();
   temporary_file(const temporary_file&) = delete;
   temporary_file& operator=(const temporary_file&) = delete;

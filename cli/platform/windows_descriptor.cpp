@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 
 #include "platform/descriptor.h"
@@ -15,7 +16,15 @@ descriptor::~descriptor() {
 }
 
 descriptor descriptor::to_read(const std::string& name) {
-  return descriptor(::_wopen(wide(name).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT));
+  const std::wstring path = wide(name);
+  descriptor file(::_wopen(path.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT));
+  // A folder is refused as if it were closed to the user.
+  struct _stat64 status {};
+  if (!file && errno == EACCES && ::_wstat64(path.c_str(), &status) == 0 &&
+      (status.st_mode & _S_IFMT) == _S_IFDIR) {
+    errno = EISDIR;
+  }
+  return file;
 }
 
 descriptor descriptor::of_standard_input() { return descriptor(::_dup(0)); }

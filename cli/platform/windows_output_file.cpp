@@ -68,7 +68,7 @@ std::string replace_file(const std::string& path, std::string_view text) {
   } else if (errno != ENOENT) {
     return reason();
   }
-  temporary_file file(target.substr(0, target.find_last_of("/\\:") + 1));
+  temporary_file file(target.substr(0, target.find_last_of("/\\:") + 1), access_meanwhile::own);
   return file.write(text) && file.take_name(target) ? "" : reason();
 }
 

@@ -21,10 +21,21 @@ std::string passing_name(const std::string& folder) {
   return folder + ".tivex-" + std::to_string(::GetCurrentProcessId()) + '-' + std::to_string(now);
 }
 
-// A new file. It can be removed while it is open, and others may read it.
-descriptor make_file(const std::string& name) {
+// Whether the system removes the file when it is closed, also by the end of the program.
+// False where the file system cannot; the file is then removed by its name.
+bool vanish_at_end(const descriptor& open, bool vanishes) {
+  const auto file = reinterpret_cast<HANDLE>(::_get_osfhandle(open.number()));
+  FILE_DISPOSITION_INFO disposition{};
+  disposition.DeleteFile = vanishes ? TRUE : FALSE;
+  return ::SetFileInformationByHandle(file, FileDispositionInfo, &disposition,
+                                      sizeof disposition) != 0;
+}
+
+// A new file. Who may remove it closes it to others that read it.
+descriptor make_file(const std::string& name, access_meanwhile access) {
+  const bool own = access == access_meanwhile::own;
   const HANDLE file =
-      ::CreateFileW(wide(name).c_str(), GENERIC_READ | GENERIC_WRITE,
+      ::CreateFileW(wide(name).c_str(), GENERIC_READ | GENERIC_WRITE | (own ? DELETE : 0),
                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, CREATE_NEW,
                     FILE_ATTRIBUTE_NORMAL | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED, nullptr);
   if (file == INVALID_HANDLE_VALUE) {
@@ -37,14 +48,17 @@ descriptor make_file(const std::string& name) {
 
 }  // namespace
 
-temporary_file::temporary_file(std::string folder) : folder_(std::move(folder)) {
+temporary_file::temporary_file(std::string folder, access_meanwhile access)
+    : folder_(std::move(folder)) {
   held_.emplace();
   do {
     path_ = passing_name(folder_);
-    file_ = make_file(path_);
+    file_ = make_file(path_, access);
   } while (!file_ && errno == EEXIST);
   named_ = static_cast<bool>(file_);
-  if (named_) remove_when_memory_ends(path_.c_str());
+  if (!named_) return;
+  remove_when_memory_ends(path_.c_str());
+  if (access == access_meanwhile::own && vanish_at_end(file_, true)) held_.reset();
 }
 
 temporary_file::~temporary_file() {
@@ -57,7 +71,10 @@ temporary_file::~temporary_file() {
 bool temporary_file::write(std::string_view text) const { return file_ && file_.write_all(text); }
 
 bool temporary_file::take_name(const std::string& target) {
-  return ::_commit(file_.number()) == 0 && rename_to(target);
+  if (::_commit(file_.number()) != 0) return false;
+  const signals_held held;
+  vanish_at_end(file_, false);
+  return rename_to(target);
 }
 
 bool temporary_file::rename_to(const std::string& target) {
