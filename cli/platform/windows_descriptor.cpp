@@ -1,6 +1,9 @@
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <windows.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -10,6 +13,14 @@
 #include "platform/windows_calls.h"
 
 namespace tivex_program {
+namespace {
+
+bool is_folder(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
 
 descriptor::~descriptor() {
   if (number_ >= 0) ::_close(number_);
@@ -19,9 +30,7 @@ descriptor descriptor::to_read(const std::string& name) {
   const std::wstring path = wide(name);
   descriptor file(::_wopen(path.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT));
   // A folder is refused as if it were closed to the user.
-  struct _stat64 status {};
-  if (!file && errno == EACCES && ::_wstat64(path.c_str(), &status) == 0 &&
-      (status.st_mode & _S_IFMT) == _S_IFDIR) {
+  if (!file && errno == EACCES && is_folder(path)) {
     errno = EISDIR;
   }
   return file;
