@@ -1,21 +1,18 @@
 #include "columns.h"
 
-#include <strings.h>
-
 #include <algorithm>
 #include <string_view>
 
+#include "ascii_case.h"
 #include "nearest_name.h"
 
 namespace tivex_program {
 namespace {
 
 const column* find_column(std::span<const column> known, const std::string& name) {
-  const auto same = [&](const column& c) { return strcasecmp(c.key, name.c_str()) == 0; };
+  const auto same = [&](const column& c) { return same_but_for_case(c.key, name); };
   const auto found = std::find_if(known.begin(), known.end(), same);
-  // A name with a NUL byte would compare up to it only.
-  const bool whole = found != known.end() && name.size() == std::string_view(found->key).size();
-  return whole ? &*found : nullptr;
+  return found == known.end() ? nullptr : &*found;
 }
 
 std::string unknown_column(const std::string& name, std::span<const column> known) {

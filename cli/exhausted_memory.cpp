@@ -1,13 +1,11 @@
 #include "exhausted_memory.h"
 
-#include <unistd.h>
-
 #include <cstdlib>
 #include <exception>
 #include <new>
-#include <string_view>
 
 #include "exit_status.h"
+#include "platform/process.h"
 
 namespace tivex_program {
 namespace {
@@ -29,10 +27,8 @@ const char* file_to_remove = nullptr;
 }  // namespace
 
 void end_for_want_of_memory() {
-  constexpr std::string_view text = "Out of memory\n";
-  if (file_to_remove != nullptr) ::unlink(file_to_remove);
-  [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
-  ::_exit(exit_failure);
+  if (file_to_remove != nullptr) remove_file(file_to_remove);
+  end_at_once("Out of memory\n", exit_failure);
 }
 
 void require_memory(std::size_t bytes) {

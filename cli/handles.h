@@ -6,6 +6,8 @@
 #include <cstring>
 #include <memory>
 
+#include "platform/process.h"
+
 namespace tivex_program {
 
 struct message_deleter {
@@ -16,7 +18,7 @@ using message_handle = std::unique_ptr<tivex_t, message_deleter>;
 // A document holds account data: none of it stays in released memory.
 struct document_deleter {
   void operator()(char* text) const {
-    explicit_bzero(text, std::strlen(text));
+    wipe(text, std::strlen(text));
     std::free(text);
   }
 };

@@ -16,7 +16,7 @@
 #include "german_numbers.h"
 #include "iban_conversion.h"
 #include "labelled_line.h"
-#include "output_file.h"
+#include "platform/output_file.h"
 #include "standard_output.h"
 
 namespace tivex_program {

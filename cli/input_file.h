@@ -1,13 +1,11 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 
-#include "descriptor.h"
+#include "platform/descriptor.h"
 
 namespace tivex_program {
 
@@ -35,7 +33,7 @@ class input_file {
   descriptor file_;
   std::uint64_t bytes_read_ = 0;
   std::optional<std::uint64_t> size_;
-  off_t start_ = 0;  // standard input may be handed over in its middle
+  std::int64_t start_ = 0;  // standard input may be handed over in its middle
 };
 
 }  // namespace tivex_program

@@ -1,7 +1,6 @@
 #include <tivex.h>
 
 #include <CLI/CLI.hpp>
-#include <csignal>
 #include <exception>
 #include <string>
 
@@ -13,6 +12,7 @@
 #include "exit_status.h"
 #include "iban_check.h"
 #include "iban_convert.h"
+#include "program.h"
 #include "standard_output.h"
 #include "statement.h"
 
@@ -24,6 +24,8 @@ int run(int argument_count, char** arguments) {
   CLI::App program("Payments in the Single Euro Payments Area", "tivex");
   program.set_version_flag("--version", std::string("tivex ") + tivex_version_str + " (edition " +
                                             tivex_edition_str + ")");
+  // A name that starts with a slash is a file's on every system.
+  program.allow_windows_style_options(false);
   program.require_subcommand(1);
   program.footer("tivex COMMAND --help shows the command's options and an example.");
   add_payment_command(program, credit_transfer, exit_status);
@@ -55,16 +57,14 @@ int run(int argument_count, char** arguments) {
 }
 
 }  // namespace
-}  // namespace tivex_program
 
-int main(int argument_count, char** arguments) {
-  // A write that fails is reported, and what it leaves behind is removed.
-  std::signal(SIGPIPE, SIG_IGN);
-  std::signal(SIGXFSZ, SIG_IGN);
+int run_program(int argument_count, char** arguments) {
   try {
-    return tivex_program::run(argument_count, arguments);
+    return run(argument_count, arguments);
   } catch (const std::exception& error) {
-    tivex_program::print_error(error.what());
-    return tivex_program::exit_failure;
+    print_error(error.what());
+    return exit_failure;
   }
 }
+
+}  // namespace tivex_program

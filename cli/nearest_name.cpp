@@ -5,10 +5,10 @@
 #include <numeric>
 #include <vector>
 
+#include "ascii_case.h"
+
 namespace tivex_program {
 namespace {
-
-char lower(char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 // The Levenshtein distance.
 std::size_t distance(std::string_view a, std::string_view b) {

@@ -14,11 +14,12 @@
 #include "fault_report.h"
 #include "input_file.h"
 #include "library_calls.h"
-#include "output_file.h"
 #include "payment_message.h"
+#include "platform/output_file.h"
 #include "rulebooks.h"
 #include "schema_flaw.h"
 #include "schema_probe.h"
+#include "standard_output.h"
 #include "transactions.h"
 
 namespace tivex_program {

@@ -1,10 +1,10 @@
 #include "progress_line.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <string>
+
+#include "platform/process.h"
 
 namespace tivex_program {
 namespace {
@@ -16,7 +16,7 @@ constexpr auto interval = std::chrono::milliseconds(250);
 
 progress_line::progress_line(std::optional<std::uint64_t> total_bytes)
     : total_bytes_(total_bytes),
-      on_terminal_(::isatty(STDERR_FILENO) == 1),
+      on_terminal_(errors_go_to_terminal()),
       due_(clock::now() + patience) {}
 
 progress_line::~progress_line() {

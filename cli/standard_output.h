@@ -1,9 +1,15 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 namespace tivex_program {
 
 // Writes out what is buffered. False, and an error line, when standard output
 // did not take everything.
 bool flush_standard_output();
+
+// Writes the text past that buffer. Returns the reason of a failure, empty for none.
+std::string write_standard_output(std::string_view text);
 
 }  // namespace tivex_program

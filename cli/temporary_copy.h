@@ -3,12 +3,12 @@
 #include <string>
 #include <string_view>
 
-#include "temporary_file.h"
+#include "platform/temporary_file.h"
 
 namespace tivex_program {
 
-// Text in a file that its owner alone can read, in $TMPDIR or /tmp, for as long as the
-// object lives.
+// Text in a file that its owner alone can read, in the folder of temporary files, for as
+// long as the object lives.
 class temporary_copy {
  public:
   explicit temporary_copy(std::string_view text);

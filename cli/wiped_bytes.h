@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <vector>
+
+#include "platform/process.h"
 
 namespace tivex_program {
 
@@ -18,7 +19,7 @@ struct wiping_allocator {
 
   element* allocate(std::size_t count) { return std::allocator<element>().allocate(count); }
   void deallocate(element* memory, std::size_t count) {
-    explicit_bzero(memory, count * sizeof(element));
+    wipe(memory, count * sizeof(element));
     std::allocator<element>().deallocate(memory, count);
   }
   bool operator==(const wiping_allocator&) const = default;

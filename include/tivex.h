@@ -30,7 +30,10 @@
 #define TIVEX_VERSION_INT 22800
 #define TIVEX_VERSION_STR "2.28"
 
-#if defined(_WIN32)
+/* TIVEX_STATIC is defined where the library's code is linked into the program itself. */
+#if defined(TIVEX_STATIC)
+#define TIVEX_API
+#elif defined(_WIN32)
 #if defined(TIVEX_BUILDING)
 #define TIVEX_API __declspec(dllexport)
 #else

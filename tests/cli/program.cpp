@@ -9,7 +9,7 @@
 namespace {
 
 const std::string commands =
-    "tivex() { '" TIVEX_PROGRAM "' \"$@\"; }; examples='" TIVEX_SOURCE_DIR
+    "tivex() { \"${TIVEX_PROGRAM:-" TIVEX_PROGRAM "}\" \"$@\"; }; examples='" TIVEX_SOURCE_DIR
     "/examples'\n"
     "with_account() { command=$1; shift; "
     "  tivex $command --name 'Beispiel GmbH' --iban DE89370400440532013000 \"$@\"; }\n"

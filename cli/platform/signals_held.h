@@ -1,6 +1,8 @@
 #pragma once
 
+#ifndef _WIN32
 #include <csignal>
+#endif
 
 namespace tivex_program {
 
@@ -8,17 +10,15 @@ namespace tivex_program {
 // would end the program and leave it behind arrive when it is gone.
 class signals_held {
  public:
-  signals_held() {
-    sigset_t all;
-    sigfillset(&all);
-    sigprocmask(SIG_BLOCK, &all, &before_);
-  }
-  ~signals_held() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+  signals_held();
+  ~signals_held();
   signals_held(const signals_held&) = delete;
   signals_held& operator=(const signals_held&) = delete;
 
  private:
+#ifndef _WIN32
   sigset_t before_{};
+#endif
 };
 
 }  // namespace tivex_program

@@ -5,10 +5,6 @@
 
 namespace tivex_program {
 
-// Writes the text to standard output. Returns the reason of a failure, empty
-// for none.
-std::string write_standard_output(std::string_view text);
-
 // Makes the text the content of the file, so that the file holds the old
 // content or the new one at every moment, also after a failure. Symbolic links
 // are followed; what is no regular file is written directly. Returns the reason

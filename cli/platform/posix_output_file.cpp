@@ -1,5 +1,3 @@
-#include "output_file.h"
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,8 +7,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "descriptor.h"
-#include "temporary_file.h"
+#include "platform/descriptor.h"
+#include "platform/output_file.h"
+#include "platform/temporary_file.h"
 
 namespace tivex_program {
 namespace {
@@ -33,23 +32,12 @@ std::string follow_links(std::string path) {
   return path;
 }
 
-mode_t new_file_mode() {
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  return 0666 & ~mask;
-}
-
 std::string write_directly(const std::string& path, std::string_view text) {
   descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
   return file && file.write_all(text) && file.close() ? "" : reason();
 }
 
 }  // namespace
-
-std::string write_standard_output(std::string_view text) {
-  descriptor copy(::dup(STDOUT_FILENO));
-  return copy && copy.write_all(text) && copy.close() ? "" : reason();
-}
 
 std::string replace_file(const std::string& path, std::string_view text) {
   struct stat status {};
@@ -60,9 +48,8 @@ std::string replace_file(const std::string& path, std::string_view text) {
   const std::string target = follow_links(path);
   // Renaming would replace a file that its owner has closed to writing.
   if (exists && ::access(target.c_str(), W_OK) != 0) return reason();
-  temporary_file file(target.substr(0, target.rfind('/') + 1));
-  const mode_t mode = exists ? status.st_mode & 07777 : new_file_mode();
-  return file.write(text) && file.take_name(target, mode) ? "" : reason();
+  temporary_file file(target.substr(0, target.rfind('/') + 1), access_meanwhile::own);
+  return file.write(text) && file.take_name(target) ? "" : reason();
 }
 
 bool is_file_to_read(const std::string& output, const std::string& input) {

@@ -1,0 +1,28 @@
+#include <unistd.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/process.h"
+
+namespace tivex_program {
+
+bool errors_go_to_terminal() { return ::isatty(STDERR_FILENO) == 1; }
+
+std::string temporary_folder() {
+  const char* const directory = std::getenv("TMPDIR");
+  const bool usual = directory == nullptr || *directory == '\0';
+  return std::string(usual ? "/tmp" : directory) + '/';
+}
+
+void remove_file(const char* name) { ::unlink(name); }
+
+void end_at_once(std::string_view last_words, int exit_status) {
+  [[maybe_unused]] const ssize_t written =
+      ::write(STDERR_FILENO, last_words.data(), last_words.size());
+  ::_exit(exit_status);
+}
+
+void wipe(void* memory, std::size_t size) { explicit_bzero(memory, size); }
+
+}  // namespace tivex_program

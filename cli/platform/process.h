@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tivex_program {
+
+// Whether standard error is a terminal.
+bool errors_go_to_terminal();
+
+// The folder of temporary files, with a separator at its end: $TMPDIR or /tmp, and on
+// Windows that of the user.
+std::string temporary_folder();
+
+// These two need no memory.
+void remove_file(const char* name);
+[[noreturn]] void end_at_once(std::string_view last_words, int exit_status);
+
+// Overwrites memory, which the compiler may not leave out.
+void wipe(void* memory, std::size_t size);
+
+}  // namespace tivex_program

@@ -1,0 +1,43 @@
+#define WIN32_LEAN_AND_MEAN
+#include <io.h>
+#include <windows.h>
+
+#include <array>
+#include <cstdlib>
+
+#include "platform/process.h"
+#include "platform/windows_calls.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr std::size_t longest_path = 32768;
+
+}  // namespace
+
+bool errors_go_to_terminal() { return is_console(2); }
+
+std::string temporary_folder() {
+  std::array<wchar_t, longest_path> folder{};
+  const DWORD length = ::GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+  return narrow({folder.data(), length});
+}
+
+void remove_file(const char* name) {
+  // Where memory is short there may be no more stack either.
+  static std::array<wchar_t, longest_path> path;
+  const int size = static_cast<int>(path.size());
+  if (::MultiByteToWideChar(CP_UTF8, 0, name, -1, path.data(), size) > 0) {
+    ::DeleteFileW(path.data());
+  }
+}
+
+void end_at_once(std::string_view last_words, int exit_status) {
+  [[maybe_unused]] const int written =
+      ::_write(2, last_words.data(), static_cast<unsigned>(last_words.size()));
+  ::_exit(exit_status);
+}
+
+void wipe(void* memory, std::size_t size) { ::SecureZeroMemory(memory, size); }
+
+}  // namespace tivex_program
