@@ -6,6 +6,8 @@
 
 namespace tivex::platform {
 
+static_assert(sizeof(std::time_t) == 8, "32 bits of seconds end in 2038");
+
 std::time_t now() { return std::time(nullptr); }
 
 calendar_time local_calendar(std::time_t moment) {
