@@ -23,3 +23,6 @@ test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 git libbenchmark-
   libxml2-utils locales-all pkgconf shellcheck)
 # shellcheck disable=SC2034
 bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrind)
+# shellcheck disable=SC2034
+windows_packages=(binutils-mingw-w64-i686 binutils-mingw-w64-x86-64 g++-mingw-w64-i686-posix
+  g++-mingw-w64-x86-64-posix gcc googletest wine64)
