@@ -26,3 +26,6 @@ bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrin
 # shellcheck disable=SC2034
 windows_library_packages=(dpkg-dev g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
   libcli11-dev nlohmann-json3-dev)
+# shellcheck disable=SC2034
+windows_packages=(binutils-mingw-w64-i686 binutils-mingw-w64-x86-64 g++-mingw-w64-i686-posix
+  g++-mingw-w64-x86-64-posix gcc googletest wine64)

@@ -40,7 +40,7 @@ TEST(Documents, AreWrittenByteForByte) {
   int count = 0;
   for (const auto& file : std::filesystem::directory_iterator(TIVEX_TEST_DATA "/documents")) {
     if (file.path().extension() != ".xml") continue;
-    const std::string name = file.path().filename();
+    const std::string name = file.path().filename().string();
     SCOPED_TRACE(name);
     const std::size_t dot = name.find('.');
     const std::string rulebook = name.substr(dot + 1, name.size() - dot - 5);

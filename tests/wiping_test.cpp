@@ -47,7 +47,7 @@ TEST_P(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
       const runtime_control::failing_allocation failing(n, true);
       EXPECT_EQ(tivex_toXML(msg.get()), nullptr) << n;
     }
-    explicit_bzero(const_cast<char*>(document), std::strlen(document));
+    tivex::platform::wipe(const_cast<char*>(document), std::strlen(document));
     std::free(const_cast<char*>(document));
   }
   EXPECT_GT(watch.blocks(), 100u);

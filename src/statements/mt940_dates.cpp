@@ -1,5 +1,6 @@
 #include "statements/mt940_dates.h"
 
+#include "core/number_scanner.h"
 #include "statements/mt940_text.h"
 
 namespace tivex {

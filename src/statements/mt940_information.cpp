@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "core/number_scanner.h"
 #include "statements/mt940_lines.h"
 #include "statements/places.h"
 #include "statements/purpose_text.h"

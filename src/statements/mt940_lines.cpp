@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "core/number_scanner.h"
 #include "statements/mt940_dates.h"
 #include "transactions/decimal.h"
 

@@ -18,7 +18,7 @@ class record_blocks {
   template <class record>
   record* make() {
     static_assert(sizeof(record) < smallest_block / 2);
-    static_assert(sizeof(block) % alignof(record) == 0);
+    static_assert(alignof(record) == alignof(block), "one may follow the other");
     void* const place = room_for(sizeof(record));
     return static_cast<record*>(place);
   }
@@ -27,8 +27,9 @@ class record_blocks {
   void release();
 
  private:
-  // The head of a block; the records stand behind it, on a place that is good for any.
-  struct alignas(std::max_align_t) block {
+  // The head of a block; the records stand behind it. They hold numbers of this type; more
+  // than that a system's memory need not be aligned to.
+  struct alignas(double) block {
     block* next;  // the one filled before
     std::size_t capacity;
     std::size_t used;

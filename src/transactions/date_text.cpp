@@ -1,9 +1,9 @@
 #include "transactions/date_text.h"
 
 #include <chrono>
-#include <cstdio>
 #include <cstring>
 
+#include "core/number_scanner.h"
 #include "validation/ascii.h"
 
 namespace tivex {
@@ -11,10 +11,10 @@ namespace tivex {
 bool has_date_length(const char* text) { return text != nullptr && std::strlen(text) == 10; }
 
 bool scan_date(const char* text) {
-  unsigned year = 0;
-  unsigned month = 0;
-  unsigned day = 0;
-  return std::sscanf(text, "%04u-%02u-%02u", &year, &month, &day) == 3;
+  number_scanner scanner(text);
+  int part = 0;
+  return scanner.read_signed(4, part) && scanner.skip('-') && scanner.read_signed(2, part) &&
+         scanner.skip('-') && scanner.read_signed(2, part);
 }
 
 bool is_calendar_date(const char* text) {

@@ -1,10 +1,6 @@
 // Rulebook selection, error texts, version, cleanup and the number helper.
 
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <cstring>
 
 #include "support/messages.h"
 #include "support/runtime_control.h"
@@ -28,6 +24,7 @@ TEST(Rulebook, IsSelectedByItsExactName) {
 TEST(Rulebook, DefaultFollowsTheLocalDateOfTheFirstMessage) {
   for (const row& r : read_table("default_rulebooks.tsv", 6)) {
     const auto number = [&r](std::size_t column) { return std::stoi(r[column].str()); };
+    if (sizeof(std::time_t) < 8 && number(0) > 2037) continue;
     const fixed_clock clock(number(0), number(1), number(2), number(3), 0, 0, r[4].c_str());
     tivex::rulebook = tivex::RULEBOOK_NONE;
     EXPECT_EQ(tivex_new(3), nullptr) << "a refused type selects it too";
@@ -55,34 +52,6 @@ TEST(ErrorText, IsCutAt255BytesEvenWhenItRepeatsItself) {
   EXPECT_EQ(tivex_setIBAN(msg.get(), tivex_getError(msg.get())), 0);
   EXPECT_EQ(error_of(msg), ("Invalid or unknown IBAN country code (" + first).substr(0, 255));
 }
-
-#if !defined(TIVEX_SANITIZED)
-// 2 GiB of address space, but not of memory.
-TEST(ErrorText, IsCutAlsoOfATextThatNoPrintfCounts) {
-  const std::size_t piece = std::size_t{1} << 26;
-  const std::size_t pieces = 33;
-  const int file = memfd_create("text", 0);
-  ASSERT_TRUE(file >= 0 && ftruncate(file, static_cast<off_t>(piece)) == 0);
-  auto* const text = static_cast<char*>(mmap(nullptr, piece * pieces + 4096, PROT_READ | PROT_WRITE,
-                                             MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
-  ASSERT_NE(text, MAP_FAILED);
-  for (std::size_t at = 0; at < piece * pieces; at += piece) {
-    ASSERT_EQ(mmap(text + at, piece, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, file, 0),
-              text + at);
-  }
-  std::memset(text, 'A', piece);
-  const message_ptr msg = new_message(TIVEX_DIRECT_DEBIT);
-  const std::string as(255, 'A');
-  EXPECT_EQ(tivex_setIBAN(msg.get(), text), 0);
-  EXPECT_EQ(error_of(msg), ("Invalid or unknown IBAN country code (" + as).substr(0, 255));
-  EXPECT_EQ(add_alone(msg, {{text, "x"}}), 0);
-  EXPECT_EQ(error_of(msg), ("Invalid transaction property '" + as).substr(0, 255));
-  EXPECT_EQ(add_alone(msg, {{"smnda", text}}), 0);
-  EXPECT_EQ(error_of(msg), ("Invalid value '" + as).substr(0, 255));
-  munmap(text, piece * pieces + 4096);
-  close(file);
-}
-#endif
 
 TEST(Cleanup, LeavesTheLibraryUsable) {
   const message_ptr msg = new_message(TIVEX_CREDIT_TRANSFER, "NL-6");

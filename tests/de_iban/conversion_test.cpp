@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ctime>
 #include <map>
 #include <random>
 #include <set>
@@ -15,6 +14,7 @@
 #include "de_iban/data/rule_05_tables.h"
 #include "de_iban/rules.h"
 #include "edition_files.h"
+#include "platform/platform.h"
 #include "support/runtime_control.h"
 #include "support/table.h"
 #include "tivex.h"
@@ -26,10 +26,8 @@ using namespace tivex::iban_rules;
 using runtime_control::fixed_clock;
 
 fixed_clock clock_at(const std::string& seconds) {
-  const std::time_t moment = std::stoll(seconds);
-  std::tm utc = {};
-  gmtime_r(&moment, &utc);
-  return {utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec};
+  const auto utc = tivex::platform::utc_calendar(static_cast<std::time_t>(std::stoll(seconds)));
+  return {utc.year, utc.month, utc.day, utc.hour, utc.minute, utc.second};
 }
 
 std::string join(const std::vector<std::string>& parts) {

@@ -47,6 +47,11 @@ static void check_and_convert(void) {
   expect(tivex_iban_getBank(iban, NULL) == 1, "its bank is found");
 }
 
+struct aligned {
+  char before;
+  double number;
+};
+
 static void read_statements(const char *path) {
   tivex_stmt_parser_t *parser = tivex_stmt_parser_new();
   const tivex_stmt_t *statement;
@@ -66,6 +71,7 @@ static void read_statements(const char *path) {
     for (entry = statement->first_tx; entry != NULL; entry = entry->next) {
       ++entries;
       if (entry->svwz != NULL) ++keywords;
+      expect((size_t)entry % offsetof(struct aligned, number) == 0, "an entry is aligned");
       expect(entry->amount != 0, "an entry has an amount");
       expect(strlen(entry->type_code) == 3, "an entry has a type");
       expect(entry->value_date.tm_mday > 0, "an entry has a value date");
@@ -115,6 +121,12 @@ static void check_order_of_members(void) {
   for (i = 1; i < sizeof bank / sizeof *bank; ++i) {
     expect(bank[i - 1] < bank[i], "the order of a bank's members");
   }
+#if defined(_WIN32)
+  /* Hosts in other languages declare the records by hand. */
+  expect(sizeof(tivex_stmt_t) == (sizeof(void *) == 4 ? 128 : 144), "the size of a statement");
+  expect(sizeof(tivex_stmt_tx_t) == (sizeof(void *) == 4 ? 272 : 344), "the size of an entry");
+  expect(sizeof(tivex_bank_info_t) == (sizeof(void *) == 4 ? 24 : 48), "the size of a bank");
+#endif
   expect(sizeof((tivex_stmt_tx_t *)NULL)->account_no == 35, "room for an IBAN of 34 characters");
   expect(sizeof((tivex_stmt_tx_t *)NULL)->name == 56, "room for a name of 55 bytes");
 }

@@ -7,8 +7,9 @@
 #include <random>
 #include <string>
 
+#include "core/number_scanner.h"
 #include "statements/mt940_dates.h"
-#include "statements/mt940_text.h"
+#include "transactions/date_text.h"
 
 namespace {
 
@@ -67,9 +68,10 @@ scanned number_by_library(std::string_view text) {
   return {whole, static_cast<int>(number)};
 }
 
+// What the numbers of 64 bits are cut to, as a C library does whose long has them.
 scanned number_by_scanf(const char* text) {
-  unsigned number = unread;
-  const bool whole = std::sscanf(text, "%u", &number) == 1;
+  unsigned long long number = unread;
+  const bool whole = std::sscanf(text, "%llu", &number) == 1;
   return {whole, static_cast<int>(number)};
 }
 
@@ -83,9 +85,9 @@ scanned numbers_by_library(std::string_view text) {
 }
 
 scanned numbers_by_scanf(const char* text) {
-  unsigned number = unread;
-  unsigned sequence = unread;
-  const bool whole = std::sscanf(text, "%u/%u", &number, &sequence) == 2;
+  unsigned long long number = unread;
+  unsigned long long sequence = unread;
+  const bool whole = std::sscanf(text, "%llu/%llu", &number, &sequence) == 2;
   return {whole, static_cast<int>(number), static_cast<int>(sequence)};
 }
 
@@ -112,4 +114,22 @@ TEST(NumberScanner, ReadsWhatTheCLibraryReads) {
     }
   }
   for (const std::size_t count : whole) EXPECT_GT(count, 500u);
+}
+
+// A date with a few characters changed.
+TEST(NumberScanner, ReadsADateAsTheCLibraryDoes) {
+  std::mt19937 random(4712);
+  const std::string characters = "0123456789 +-\t/x";
+  std::size_t whole = 0;
+  for (int count = 0; count < 50000; ++count) {
+    std::string text = "2024-04-17";
+    for (auto changes = random() % 5; changes > 0; --changes) {
+      text[random() % text.size()] = characters[random() % characters.size()];
+    }
+    unsigned year = 0, month = 0, day = 0;
+    const bool expected = std::sscanf(text.c_str(), "%04u-%02u-%02u", &year, &month, &day) == 3;
+    whole += expected ? 1 : 0;
+    ASSERT_EQ(tivex::scan_date(text.c_str()), expected) << testing::PrintToString(text);
+  }
+  EXPECT_TRUE(whole > 5000 && whole < 45000) << whole;
 }

@@ -15,7 +15,7 @@ using parser_ptr = std::unique_ptr<tivex_stmt_parser_t, parser_deleter>;
 inline parser_ptr new_parser() { return parser_ptr(tivex_stmt_parser_new()); }
 
 inline int load(const parser_ptr& parser, const std::filesystem::path& path) {
-  return tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940, path.c_str());
+  return tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940, path.string().c_str());
 }
 
 // Result and error text of a load, and what was read. An empty path stands for none.
@@ -27,6 +27,9 @@ struct temporary_file {
   explicit temporary_file(const std::string& content);
   ~temporary_file() { std::filesystem::remove(path); }
 };
+
+// The descriptor that the next file opened would get: higher when one is left open.
+int next_descriptor();
 
 std::string content_of(const std::filesystem::path& path);
 

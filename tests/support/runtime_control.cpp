@@ -1,20 +1,13 @@
 #include "support/runtime_control.h"
 
-#include <fcntl.h>
-#include <malloc.h>
-#include <sys/stat.h>
-#include <sys/types.h>
-#include <unistd.h>
-
-#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
-#include <optional>
 #include <string_view>
+
+#include "support/runtime_hooks.h"
 
 namespace runtime_control {
 
@@ -23,10 +16,7 @@ namespace {
 std::atomic<std::size_t> allocations_left = 0;  // until one fails; 0: none will
 std::atomic<bool> all_later_fail = false;
 std::atomic<bool> failure_happened = false;
-std::optional<std::time_t> clock_moment;
 std::time_t clock_step = 0;
-std::optional<unsigned> process_id;
-file_control* files = nullptr;
 std::string watched_text;
 std::atomic<std::size_t> watched_blocks = 0;
 std::atomic<std::size_t> watched_blocks_with_text = 0;
@@ -38,27 +28,42 @@ bool allocation_fails() {
   return true;
 }
 
-bool status_fails() {
-  if (files == nullptr || files->status_error == 0) return false;
-  errno = files->status_error;
-  return true;
-}
-
 // What a test itself has left in released memory must not be found in a block.
 void* without_old_content(void* block) {
-  if (block != nullptr && !watched_text.empty())
-    std::memset(block, 0xA5, malloc_usable_size(block));
+  if (block != nullptr && !watched_text.empty()) std::memset(block, 0xA5, size_of_block(block));
   return block;
 }
 
 void look_at(void* block) {
   if (block == nullptr || watched_text.empty()) return;
   ++watched_blocks;
-  const std::string_view bytes(static_cast<const char*>(block), malloc_usable_size(block));
+  const std::string_view bytes(static_cast<const char*>(block), size_of_block(block));
   if (bytes.find(watched_text) != std::string_view::npos) ++watched_blocks_with_text;
 }
 
 }  // namespace
+
+std::optional<std::time_t> clock_moment;
+std::optional<unsigned> process_id;
+file_control* files = nullptr;
+
+std::time_t tick() {
+  const std::time_t now = *clock_moment;
+  *clock_moment += clock_step;
+  return now;
+}
+
+bool status_fails() {
+  if (files == nullptr || files->status_error == 0) return false;
+  errno = files->status_error;
+  return true;
+}
+
+bool read_fails() {
+  if (++files->reads != files->failing_read) return false;
+  errno = files->read_error;
+  return true;
+}
 
 failing_allocation::failing_allocation(std::size_t n, bool all_later) {
   failure_happened = false;
@@ -76,13 +81,11 @@ fixed_clock::fixed_clock(int year, int month, int day, int hour, int minute, int
   const std::chrono::sys_days date = std::chrono::year(year) / month / day;
   clock_moment =
       date.time_since_epoch() / std::chrono::seconds(1) + hour * 3600 + minute * 60 + second;
-  setenv("TZ", zone, 1);
-  tzset();
+  set_zone(zone);
 }
 fixed_clock::~fixed_clock() {
   clock_moment.reset();
-  unsetenv("TZ");
-  tzset();
+  set_zone(nullptr);
 }
 
 ticking_clock::ticking_clock(int year, int month, int day, int hour, int minute, int second)
@@ -117,12 +120,6 @@ void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 void* __real_realloc(void* block, std::size_t size);
 void __real_free(void* block);
-std::time_t __real_time(std::time_t* moment);
-pid_t __real_getpid(void);
-ssize_t __real_read(int descriptor, void* buffer, std::size_t size);
-// The C library has one of them or both.
-[[gnu::weak]] int __real_fstat(int descriptor, struct stat* status);
-[[gnu::weak]] int __real_fstat64(int descriptor, struct stat64* status);
 
 void* __wrap_malloc(std::size_t size) {
   return allocation_fails() ? nullptr : without_old_content(__real_malloc(size));
@@ -139,34 +136,5 @@ void* __wrap_realloc(void* block, std::size_t size) {
 void __wrap_free(void* block) {
   look_at(block);
   __real_free(block);
-}
-
-std::time_t __wrap_time(std::time_t* moment) {
-  const std::time_t now = clock_moment ? *clock_moment : __real_time(nullptr);
-  if (clock_moment) *clock_moment += clock_step;
-  if (moment != nullptr) *moment = now;
-  return now;
-}
-
-pid_t __wrap_getpid(void) { return process_id ? static_cast<pid_t>(*process_id) : __real_getpid(); }
-
-ssize_t __wrap_read(int descriptor, void* buffer, std::size_t size) {
-  if (files == nullptr) return __real_read(descriptor, buffer, size);
-  files->without_waiting |= (fcntl(descriptor, F_GETFL) & O_NONBLOCK) != 0;
-  if (++files->reads == files->failing_read) {
-    errno = files->read_error;
-    return -1;
-  }
-  const ssize_t count = __real_read(descriptor, buffer, std::min(size, files->longest_read));
-  if (count > 0) files->bytes += static_cast<std::size_t>(count);
-  return count;
-}
-
-int __wrap_fstat(int descriptor, struct stat* status) {
-  return status_fails() ? -1 : __real_fstat(descriptor, status);
-}
-
-int __wrap_fstat64(int descriptor, struct stat64* status) {
-  return status_fails() ? -1 : __real_fstat64(descriptor, status);
 }
 }

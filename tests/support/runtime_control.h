@@ -15,6 +15,13 @@ struct failing_allocation {
   bool happened() const;
 };
 
+// Sets TZ, or removes it for null, as a host may behind the C library's back, where the
+// C library looks at it by itself.
+void change_zone(const char* zone);
+
+// Sets TZ and tells the C library.
+void set_zone(const char* zone);
+
 // The clock stands at a moment of Coordinated Universal Time, and local time is
 // that of a zone as TZ names it.
 struct fixed_clock {
