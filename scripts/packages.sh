@@ -23,3 +23,7 @@ test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 git libbenchmark-
   libxml2-utils locales-all pkgconf shellcheck)
 # shellcheck disable=SC2034
 bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrind)
+# Those of other processors, for the tests under qemu-user.
+# shellcheck disable=SC2034
+processor_packages=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-i686-linux-gnu
+  g++-s390x-linux-gnu googletest qemu-user)
