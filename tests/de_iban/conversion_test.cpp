@@ -25,8 +25,14 @@ namespace {
 using namespace tivex::iban_rules;
 using runtime_control::fixed_clock;
 
+// A time_t of 32 bits ends in 2038.
+bool has_clock_at(const std::string& seconds) {
+  const long long moment = std::stoll(seconds);
+  return static_cast<std::time_t>(moment) == moment;
+}
+
 fixed_clock clock_at(const std::string& seconds) {
-  const std::time_t moment = std::stoll(seconds);
+  const auto moment = static_cast<std::time_t>(std::stoll(seconds));
   std::tm utc = {};
   gmtime_r(&moment, &utc);
   return {utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec};
@@ -100,6 +106,7 @@ TEST(IbanRules, HaveTablesOfTheDeclaredSizes) {
 TEST(Conversion, MakesTheIbanOrTellsWhyNot) {
   std::set<int> statuses;
   for (const row& r : read_table("conversions.tsv", 8)) {
+    if (!has_clock_at(r[0].str())) continue;
     const fixed_clock clock = clock_at(r[0].str());
     const converted seen = convert(r[1].c_str(), r[2].c_str(), r[3].c_str());
     EXPECT_EQ(join({std::to_string(seen.result), seen.iban, std::to_string(seen.status)}),

@@ -67,9 +67,10 @@ scanned number_by_library(std::string_view text) {
   return {whole, static_cast<int>(number)};
 }
 
+// 64 bits are counted, as %u does where a long has so many.
 scanned number_by_scanf(const char* text) {
-  unsigned number = unread;
-  const bool whole = std::sscanf(text, "%u", &number) == 1;
+  unsigned long long number = unread;
+  const bool whole = std::sscanf(text, "%llu", &number) == 1;
   return {whole, static_cast<int>(number)};
 }
 
@@ -83,9 +84,9 @@ scanned numbers_by_library(std::string_view text) {
 }
 
 scanned numbers_by_scanf(const char* text) {
-  unsigned number = unread;
-  unsigned sequence = unread;
-  const bool whole = std::sscanf(text, "%u/%u", &number, &sequence) == 2;
+  unsigned long long number = unread;
+  unsigned long long sequence = unread;
+  const bool whole = std::sscanf(text, "%llu/%llu", &number, &sequence) == 2;
   return {whole, static_cast<int>(number), static_cast<int>(sequence)};
 }
 

@@ -64,7 +64,8 @@ TEST(XmlBuffer, StaysAsItWasWhenMemoryIsExhausted) {
   EXPECT_FALSE(xml_buffer_append(*buf, large));
   EXPECT_FALSE(xml_buffer_append_escaped(*buf, large.c_str()));
   EXPECT_FALSE(xml_buffer_append_list(*buf, {"ed", large, "x"}));
-  for (const std::uint64_t need : {0xFFFFFFF0ULL, 1ULL << 33}) {
+  const std::size_t highest_bit = ~(~std::size_t{0} / 2);
+  for (const std::size_t need : {std::size_t{0xFFFFFFF0}, highest_bit}) {
     EXPECT_FALSE(xml_buffer_reserve(*buf, need)) << "a text ends below 4 GiB";
   }
   EXPECT_STREQ(buf->data, "started");
