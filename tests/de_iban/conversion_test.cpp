@@ -25,6 +25,12 @@ namespace {
 using namespace tivex::iban_rules;
 using runtime_control::fixed_clock;
 
+// A time_t of 32 bits ends in 2038.
+bool has_clock_at(const std::string& seconds) {
+  const long long moment = std::stoll(seconds);
+  return static_cast<std::time_t>(moment) == moment;
+}
+
 fixed_clock clock_at(const std::string& seconds) {
   const auto utc = tivex::platform::utc_calendar(static_cast<std::time_t>(std::stoll(seconds)));
   return {utc.year, utc.month, utc.day, utc.hour, utc.minute, utc.second};
@@ -98,6 +104,7 @@ TEST(IbanRules, HaveTablesOfTheDeclaredSizes) {
 TEST(Conversion, MakesTheIbanOrTellsWhyNot) {
   std::set<int> statuses;
   for (const row& r : read_table("conversions.tsv", 8)) {
+    if (!has_clock_at(r[0].str())) continue;
     const fixed_clock clock = clock_at(r[0].str());
     const converted seen = convert(r[1].c_str(), r[2].c_str(), r[3].c_str());
     EXPECT_EQ(join({std::to_string(seen.result), seen.iban, std::to_string(seen.status)}),

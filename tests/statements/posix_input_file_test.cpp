@@ -99,3 +99,15 @@ TEST(InputFile, MayHoldMoreThanTwoGibibytes) {
   EXPECT_EQ(outcome_of(file.path), outcome_of(example));
   EXPECT_EQ(files.bytes, size + fs::file_size(example));
 }
+
+// Its size is told in full where memory is counted in 32 bits.
+TEST(InputFile, MayBeTooLargeForMemory) {
+  if (sizeof(void*) > 4) GTEST_SKIP() << "every file fits";
+  const temporary_file file("");
+  for (const std::uintmax_t size : {(std::uintmax_t{1} << 31) + 4711, (std::uintmax_t{1} << 32) - 1,
+                                    (std::uintmax_t{1} << 32) + 4711}) {
+    fs::resize_file(file.path, size);
+    EXPECT_EQ(outcome_of(file.path),
+              "load=0\nerror=Failed to allocate " + std::to_string(size) + " bytes\n");
+  }
+}
