@@ -1,5 +1,6 @@
 #include "directory/find_bank.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -49,7 +50,7 @@ int find_code(const char* listed_under, std::string_view bank_code) {
   char key[country_prefix_length + width];
   key[0] = national_mark;
   std::memcpy(key + 1, listed_under, 2);
-  std::memset(key + country_prefix_length, '0', width);
+  std::fill_n(key + country_prefix_length, width, '0');
   std::memcpy(key + sizeof key - bank_code.size(), bank_code.data(), bank_code.size());
   return find_record(key);
 }
