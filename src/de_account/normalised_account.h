@@ -20,12 +20,13 @@ class normalised_account {
   explicit normalised_account(std::string_view account, std::string_view sub_account = "") {
     if (account.size() == width) {  // as in an IBAN: two instructions
       std::memcpy(text_, account.data(), width);
-      return;
+    } else {
+      std::memset(text_, '0', width);
+      const std::size_t account_end = width - sub_account.size();
+      std::memcpy(text_ + account_end - account.size(), account.data(), account.size());
+      std::memcpy(text_ + account_end, sub_account.data(), sub_account.size());
     }
-    std::memset(text_, '0', width);
-    const std::size_t account_end = width - sub_account.size();
-    std::memcpy(text_ + account_end - account.size(), account.data(), account.size());
-    std::memcpy(text_ + account_end, sub_account.data(), sub_account.size());
+    platform::touch(text_);
   }
   normalised_account(const normalised_account&) = delete;
   normalised_account& operator=(const normalised_account&) = delete;

@@ -48,7 +48,10 @@ struct rule_input {
 
   bool has_account(std::string_view text) const { return account_text() == text; }
   bool has_bank_code(std::string_view text) const { return bank_code_text() == text; }
-  void set_account(std::string_view text) { std::memcpy(account, text.data(), account_length); }
+  void set_account(std::string_view text) {
+    std::memcpy(account, text.data(), account_length);
+    platform::touch(account);
+  }
   void set_bank_code(std::string_view text) {
     std::memcpy(bank_code, text.data(), bank_code_length);
   }

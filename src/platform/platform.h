@@ -32,12 +32,16 @@ inline constexpr std::size_t large_block = std::size_t{4} << 20;
 // Overwrites a large block with zeros that go past the caches, in half the time.
 void wipe_large_block(void* memory, std::size_t size);
 
-// Overwrites memory with zeros; the compiler cannot remove it, for it has to suppose that
-// somebody reads the memory afterwards. Inline: most of what is wiped is a few bytes.
+// Makes the compiler suppose that somebody reads and changes the memory here: it stores
+// what belongs there and keeps no copy of it anywhere else.
+inline void touch(void* memory) { __asm__ volatile("" : : "r"(memory) : "memory"); }
+
+// Overwrites memory with zeros; the compiler cannot remove it. Inline: most of what is
+// wiped is a few bytes.
 inline void wipe(void* memory, std::size_t size) {
   if (size >= large_block) return wipe_large_block(memory, size);
   std::memset(memory, 0, size);
-  __asm__ volatile("" : : "r"(memory) : "memory");
+  touch(memory);
 }
 
 // Says that memory will be written to soon. A system that gives memory page by page, as

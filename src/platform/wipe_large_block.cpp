@@ -21,7 +21,7 @@ void wipe_large_block(void* memory, std::size_t size) {
 #else
   std::memset(memory, 0, size);
 #endif
-  __asm__ volatile("" : : "r"(memory) : "memory");
+  touch(memory);
 }
 
 }  // namespace tivex::platform
