@@ -14,8 +14,9 @@
  * - The library copies every text that it keeps; the host keeps owning what it
  *   passes in. The host releases two things with the C run-time's free(): the
  *   document that tivex_toXML returns and the block that a bank lookup returns.
- * - Nothing is printed, logged or thrown, and no call ends the process. Results
- *   are small integers; the reason of a failure is read with tivex_getError.
+ * - Nothing is printed, logged or thrown, and no call ends the process; a host's
+ *   floating-point traps are off while the library computes. Results are small
+ *   integers; the reason of a failure is read with tivex_getError.
  * - The library creates no threads. A message belongs to one thread at a time;
  *   different messages may be used by different threads, and the checks and
  *   lookups may be called by any number of threads at once; none waits for
