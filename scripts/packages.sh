@@ -15,6 +15,12 @@ install_packages() {
     apt-get install --quiet=2 --yes --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# The mirror that this machine takes Debian's packages from.
+debian_mirror() {
+  cat /etc/apt/sources.list /etc/apt/sources.list.d/debian.sources 2>/dev/null |
+    sed -nE 's/^URIs: *([^ ]+).*/\1/p; s/^deb( \[[^]]*\])? +([^ ]+) .*/\2/p' | head -n 1
+}
+
 # shellcheck disable=SC2034 # the lists are for those who source this file
 build_packages=(g++ cmake make libcli11-dev libcsv-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
