@@ -121,7 +121,7 @@ static void check_iban(char *answer) {
     if (text[0] == 'D') memcpy(text + 4, any_bank(), 8);
     set_check_digits(text);
   }
-  if (below(4) == 0) text[below(strlen(text))] = (char)('0' + below(43));
+  if (below(4) == 0) text[below((unsigned long)strlen(text))] = (char)('0' + below(43));
   result = tivex_iban_check(text);
   sprintf(answer, "iban %s: %d", text, result);
   result = tivex_iban_getBIC(text, bic);

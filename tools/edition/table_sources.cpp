@@ -62,7 +62,7 @@ std::string second_version_source(const std::vector<directory_record>& records) 
     for (std::size_t index = start; index < end; ++index) {
       if (records[index].has_second_version) bits |= std::uint64_t{1} << (index - start);
     }
-    words.add(std::to_string(bits) + "u");
+    words.add(std::to_string(bits) + "U");
   }
   return text + "};\n";
 }
