@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Turns what the benchmarks measured into the page with the ratios.
 
-Usage: report.py RESULTS.json < targets.tsv > page; fails when a benchmark is missing.
+Usage: report.py RESULTS.json SYSTEM > page; fails when a benchmark of targets.tsv is missing.
 """
 
 import csv

@@ -19,7 +19,6 @@ constexpr std::size_t country_prefix_length = 3;
 constexpr std::size_t german_width = 8;
 constexpr std::size_t alpine_width = 5;
 
-constexpr char separators[] = {field_separator, '\0'};
 constexpr int none = -1;
 
 bool same_country(const char* left, const char* right) {
@@ -172,7 +171,7 @@ bool directory_find_german_bank(std::string_view bank_code, german_bank& bank) {
   bank.successor = {};
   const char* const successor = version + german_block_length;
   if (*successor != field_separator) {
-    bank.successor = {successor, std::strcspn(successor, separators)};
+    bank.successor = {successor, std::strchr(successor, field_separator)};
   }
   return true;
 }

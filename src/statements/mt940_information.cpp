@@ -38,7 +38,7 @@ char* join_lines(char*& line_end, char* end) {
 int subfield_at(const char* at, const char* end) {
   if (end - at < static_cast<std::ptrdiff_t>(mark_length) || *at != '?') return no_subfield;
   if (!is_digit(at[1]) || !is_digit(at[2])) return no_subfield;
-  return (at[1] - '0') * 10 + (at[2] - '0');
+  return two_digits(at + 1);
 }
 
 char* find_mark(char* from, char* end) {
