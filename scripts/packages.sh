@@ -34,7 +34,8 @@ windows_library_packages=(dpkg-dev g++-mingw-w64-i686-posix g++-mingw-w64-x86-64
   libcli11-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
 windows_packages=(binutils-mingw-w64-i686 binutils-mingw-w64-x86-64 g++-mingw-w64-i686-posix
-  g++-mingw-w64-x86-64-posix gcc googletest wine64)
+  g++-mingw-w64-x86-64-posix googletest libgtest-dev libxml2-dev libxml2-utils
+  wine64)
 # Those of other processors, for the tests under qemu-user.
 # shellcheck disable=SC2034
 processor_packages=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-i686-linux-gnu
