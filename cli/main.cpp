@@ -4,17 +4,17 @@
 #include <exception>
 #include <string>
 
-#include "account_check.h"
-#include "bank.h"
-#include "credit_transfer.h"
-#include "diagnostics.h"
-#include "direct_debit.h"
-#include "exit_status.h"
-#include "iban_check.h"
-#include "iban_convert.h"
+#include "commands/account_check.h"
+#include "commands/bank.h"
+#include "commands/credit_transfer.h"
+#include "commands/direct_debit.h"
+#include "commands/iban_check.h"
+#include "commands/iban_convert.h"
+#include "commands/statement.h"
+#include "platform/exit_status.h"
 #include "program.h"
-#include "standard_output.h"
-#include "statement.h"
+#include "terminal/diagnostics.h"
+#include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {

@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "exhausted_memory.h"
+#include "platform/exhausted_memory.h"
 #include "platform/temporary_file.h"
 
 namespace tivex_program {

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "exhausted_memory.h"
+#include "platform/exhausted_memory.h"
 #include "platform/process.h"
 #include "platform/temporary_file.h"
 #include "platform/windows_calls.h"

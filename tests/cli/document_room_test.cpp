@@ -1,5 +1,5 @@
 // What the program foresees of a document's size.
-#include "../../cli/document_room.h"
+#include "../../cli/payments/document_room.h"
 
 #include <gtest/gtest.h>
 

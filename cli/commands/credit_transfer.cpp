@@ -1,0 +1,53 @@
+#include "commands/credit_transfer.h"
+
+#include <tivex.h>
+
+#include "payments/document_room.h"
+#include "payments/payment_tables.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr header_option options[] = {
+    name_option,
+    {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
+    {"--bic", "BIC", "The account's bank; German banks ask for it", false, tivex_setBIC},
+    {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
+     tivex_setDate, date_fault},
+    message_id_option,
+};
+
+constexpr auto columns = with_shared_columns(std::array{column{"purp", purpose_fault}});
+
+constexpr const char* example = R"(Example:
+  tivex credit-transfer --name "Beispiel GmbH" --iban DE89370400440532013000 \
+      --bic COBADEFFXXX --date 2026-11-27 -o payroll.xml payroll.csv
+
+with the payroll.csv
+
+  iban,name,amount,ref,purp
+  AT611904300234573201,Erika Muster,1850.40,"Gehalt November, Nr. 7",SALA
+  DE89370400440532013000,Jörg Beispiel,1349.60,"Gehalt November, Nr. 8",SALA
+
+writes payroll.xml and prints
+
+  transactions    2
+  sum             3200.00 EUR
+  payment blocks  1
+  rulebook        DE-3.7 (pain.001.001.09)
+  schema          meets pain.001.001.09 (German subset)
+  file            payroll.xml)";
+
+}  // namespace
+
+constinit const payment_command credit_transfer = {
+    .name = "credit-transfer",
+    .description = "Write a credit transfer document (pain.001) from a CSV file",
+    .example = example,
+    .options = options,
+    .transactions = {.message_type = TIVEX_CREDIT_TRANSFER,
+                     .columns = columns,
+                     .least_bytes = least_credit_transfer},
+};
+
+}  // namespace tivex_program

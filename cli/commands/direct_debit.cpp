@@ -1,0 +1,79 @@
+#include "commands/direct_debit.h"
+
+#include <tivex.h>
+
+#include <algorithm>
+
+#include "payments/document_room.h"
+#include "payments/payment_tables.h"
+
+namespace tivex_program {
+namespace {
+
+constexpr std::string_view local_instruments[] = {"CORE", "COR1", "B2B"};
+
+std::string local_instrument_fault(std::string_view value) {
+  const bool known = std::ranges::find(local_instruments, value) != std::end(local_instruments);
+  return known ? "" : "unknown type '" + std::string(value) + "' (known: CORE, COR1, B2B)";
+}
+
+int set_local_instrument(tivex_t* message, const char* value) {
+  const auto* const found = std::ranges::find(local_instruments, std::string_view(value));
+  return tivex_setDDType(message, static_cast<int>(found - std::begin(local_instruments)));
+}
+
+constexpr header_option options[] = {
+    name_option,
+    {"--iban", "IBAN", "Account that the collections are made for", true, tivex_setIBAN},
+    {"--bic", "BIC", "The account's bank", true, tivex_setBIC},
+    {"--creditor-id", "ID", "Creditor identifier", true, tivex_setCreditorIdentifier,
+     unescaped_fault},
+    {"--type", "TYPE", "CORE (default), COR1 or B2B", false, set_local_instrument,
+     local_instrument_fault},
+    {"--date", "DATE", "Collection date of lines without one, yyyy-mm-dd (default: today)", false,
+     tivex_setDate, date_fault},
+    message_id_option,
+};
+
+constexpr auto columns = with_shared_columns(std::array{
+    column{"seq"},
+    column{"mref", unescaped_fault},
+    column{"mdate", date_fault},
+    column{"old_mref", unescaped_fault},
+    column{"old_iban"},
+    column{"smnda"},
+});
+
+constexpr const char* example = R"(Example:
+  tivex direct-debit --name "Sportverein Beispiel" --iban DE89370400440532013000 \
+      --bic COBADEFFXXX --creditor-id DE98ZZZ09999999999 --date 2026-12-01 \
+      -o fees.xml fees.csv
+
+with the fees.csv
+
+  iban,name,amount,seq,mref,mdate,ref
+  AT611904300234573201,Erika Muster,48.00,RCUR,M-1001,2024-03-01,"Beitrag 2027, Nr. 7"
+  NL91ABNA0417164300,Jörg Beispiel,96.00,FRST,M-1002,2026-11-02,"Beitrag 2027, Nr. 8"
+
+writes fees.xml and prints
+
+  transactions    2
+  sum             144.00 EUR
+  payment blocks  2
+  rulebook        DE-3.7 (pain.008.001.08)
+  schema          meets pain.008.001.08 (German subset)
+  file            fees.xml)";
+
+}  // namespace
+
+constinit const payment_command direct_debit = {
+    .name = "direct-debit",
+    .description = "Write a direct debit document (pain.008) from a CSV file",
+    .example = example,
+    .options = options,
+    .transactions = {.message_type = TIVEX_DIRECT_DEBIT,
+                     .columns = columns,
+                     .least_bytes = least_direct_debit},
+};
+
+}  // namespace tivex_program

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "payment_command.h"
-
-namespace tivex_program {
-
-extern const payment_command credit_transfer;
-
-}  // namespace tivex_program

@@ -1,0 +1,56 @@
+// What the commands for payments share.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "payments/columns.h"
+#include "payments/header_option.h"
+#include "payments/rulebooks.h"
+
+namespace tivex_program {
+
+inline constexpr header_option name_option = {"--name", "NAME", "Name of the account's holder",
+                                              true, tivex_setName};
+inline constexpr header_option message_id_option = {"--message-id", "ID",
+                                                    "Identifier of the message (default: made up)",
+                                                    false, tivex_setMessageId};
+
+// The columns of every payment.
+inline constexpr std::array shared_columns = {
+    column{"iban"},
+    column{"name"},
+    column{"amount"},
+    column{"ref"},
+    column{"bic"},
+    column{"date", date_fault},
+    column{"id", unescaped_fault},
+    column{"addrCC"},
+    column{"addrLine1"},
+    column{"addrLine2"},
+    column{"addrDept", text_fault, structured_rulebook},
+    column{"addrSubDept", text_fault, structured_rulebook},
+    column{"addrStreet", text_fault, structured_rulebook},
+    column{"addrNum", text_fault, structured_rulebook},
+    column{"addrBldg", text_fault, structured_rulebook},
+    column{"addrFloor", text_fault, structured_rulebook},
+    column{"addrPoBox", text_fault, structured_rulebook},
+    column{"addrRoom", text_fault, structured_rulebook},
+    column{"addrCode", text_fault, structured_rulebook},
+    column{"addrTown", text_fault, structured_rulebook},
+    column{"addrLoc", text_fault, structured_rulebook},
+    column{"addrDstrct", text_fault, structured_rulebook},
+    column{"addrCtrySub", text_fault, structured_rulebook},
+};
+
+// Returns a command's own columns and behind them the shared ones.
+template <std::size_t count>
+constexpr auto with_shared_columns(const std::array<column, count>& own) {
+  std::array<column, count + shared_columns.size()> all{};
+  std::copy(own.begin(), own.end(), all.begin());
+  std::copy(shared_columns.begin(), shared_columns.end(), all.begin() + count);
+  return all;
+}
+
+}  // namespace tivex_program
