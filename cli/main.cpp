@@ -1,16 +1,8 @@
-#include <tivex.h>
-
 #include <CLI/CLI.hpp>
 #include <exception>
 #include <string>
 
-#include "commands/account_check.h"
-#include "commands/bank.h"
-#include "commands/credit_transfer.h"
-#include "commands/direct_debit.h"
-#include "commands/iban_check.h"
-#include "commands/iban_convert.h"
-#include "commands/statement.h"
+#include "commands/all_commands.h"
 #include "platform/exit_status.h"
 #include "program.h"
 #include "terminal/diagnostics.h"
@@ -22,23 +14,7 @@ namespace {
 int run(int argument_count, char** arguments) {
   int exit_status = exit_success;
   CLI::App program("Payments in the Single Euro Payments Area", "tivex");
-  program.set_version_flag("--version", std::string("tivex ") + tivex_version_str + " (edition " +
-                                            tivex_edition_str + ")");
-  // A name that starts with a slash is a file's on every system.
-  program.allow_windows_style_options(false);
-  program.require_subcommand(1);
-  program.footer("tivex COMMAND --help shows the command's options and an example.");
-  add_payment_command(program, credit_transfer, exit_status);
-  add_payment_command(program, direct_debit, exit_status);
-  CLI::App* const ibans = program.add_subcommand("iban", "Work with IBANs");
-  ibans->require_subcommand(1);
-  ibans->footer("tivex iban COMMAND --help shows the command's options and an example.");
-  add_iban_check(*ibans, exit_status);
-  add_iban_convert(*ibans, exit_status);
-  add_iban_bic(*ibans, exit_status);
-  add_bank(program, exit_status);
-  add_account_check(program, exit_status);
-  add_statement(program, exit_status);
+  add_commands(program, exit_status);
   try {
     program.parse(argument_count, arguments);
   } catch (const CLI::RequiredError& error) {
