@@ -3,6 +3,7 @@
 #include <string>
 
 #include "commands/all_commands.h"
+#include "commands/help.h"
 #include "platform/exit_status.h"
 #include "program.h"
 #include "terminal/diagnostics.h"
@@ -10,6 +11,18 @@
 
 namespace tivex_program {
 namespace {
+
+// The command that the arguments have come to.
+const CLI::App& chosen_command(const CLI::App& program) {
+  const auto commands = program.get_subcommands();
+  return commands.empty() ? program : chosen_command(*commands.front());
+}
+
+int usage_error(const CLI::ParseError& error) {
+  print_error(error.what());
+  print_note("Run with --help for more information.");
+  return exit_usage;
+}
 
 int run(int argument_count, char** arguments) {
   int exit_status = exit_success;
@@ -20,13 +33,14 @@ int run(int argument_count, char** arguments) {
   } catch (const CLI::RequiredError& error) {
     // A misspelt command is not the one that is missing.
     for (const std::string& unknown : program.remaining(true)) {
-      print_error("unknown command or option '" + unknown + "'");
+      print_error("unknown command or option '" + unknown + "'" +
+                  near_command(chosen_command(program), unknown));
     }
-    program.exit(error);
-    return exit_usage;
+    return usage_error(error);
   } catch (const CLI::ParseError& error) {
     // Help and version arrive here too, as errors of status 0.
-    if (program.exit(error) != 0) return exit_usage;
+    if (error.get_exit_code() != 0) return usage_error(error);
+    program.exit(error);
     return flush_standard_output() ? exit_success : exit_failure;
   }
   return exit_status;

@@ -45,15 +45,15 @@ constexpr auto columns = with_shared_columns(std::array{
 });
 
 constexpr const char* example = R"(Example:
-  tivex direct-debit --name "Sportverein Beispiel" --iban DE89370400440532013000 \
-      --bic COBADEFFXXX --creditor-id DE98ZZZ09999999999 --date 2026-12-01 \
-      -o fees.xml fees.csv
+  tivex direct-debit --name "Sportverein Beispiel" \
+      --iban DE89370400440532013000 --bic COBADEFFXXX \
+      --creditor-id DE98ZZZ09999999999 --date 2026-12-01 -o fees.xml fees.csv
 
 with the fees.csv
 
   iban,name,amount,seq,mref,mdate,ref
-  AT611904300234573201,Erika Muster,48.00,RCUR,M-1001,2024-03-01,"Beitrag 2027, Nr. 7"
-  NL91ABNA0417164300,Jörg Beispiel,96.00,FRST,M-1002,2026-11-02,"Beitrag 2027, Nr. 8"
+  AT611904300234573201,Erika Muster,48.00,RCUR,M-1001,2024-03-01,Beitrag Nr. 7
+  NL91ABNA0417164300,Jörg Beispiel,96.00,FRST,M-1002,2026-11-02,Beitrag Nr. 8
 
 writes fees.xml and prints
 

@@ -31,8 +31,8 @@ prints
 
   tivex iban convert -o ibans.csv customers.csv
 
-reads the columns bank_code and account and writes each row again with the columns
-iban, bic, bank and status behind its own.)";
+reads the columns bank_code and account and writes each row again with the
+columns iban, bic, bank and status behind its own.)";
 
 constexpr const char* bic_example = R"(Example:
   tivex iban bic DE89370400440532013000

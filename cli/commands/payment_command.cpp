@@ -3,24 +3,14 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "files/delimiters.h"
-#include "files/input_file.h"
-#include "payments/document_room.h"
-#include "payments/document_summary.h"
-#include "payments/library_calls.h"
-#include "payments/payment_message.h"
+#include "payments/payment_document.h"
 #include "payments/rulebooks.h"
-#include "payments/schema_flaw.h"
-#include "payments/schema_probe.h"
-#include "payments/transactions.h"
 #include "platform/exit_status.h"
-#include "platform/output_file.h"
 #include "terminal/diagnostics.h"
-#include "terminal/fault_report.h"
-#include "terminal/standard_output.h"
+#include "terminal/wrapped_text.h"
 
 namespace tivex_program {
 namespace {
@@ -31,15 +21,13 @@ struct payment_arguments {
   std::vector<const CLI::Option*> given;
   bool single_booking = false;
   bool lenient = false;
+  bool json = false;
+  bool quiet = false;
+  bool all_faults = false;
   std::string output = "-";
   std::string delimiter = ",";
   std::string input;
 };
-
-int usage_error(const std::string& text) {
-  print_error(text);
-  return exit_usage;
-}
 
 payment_header header_of(const payment_command& command, const payment_arguments& arguments) {
   payment_header header{
@@ -53,83 +41,26 @@ payment_header header_of(const payment_command& command, const payment_arguments
 
 // Returns the names of the columns as a paragraph of the help text.
 std::string list_columns(std::span<const column> columns) {
-  constexpr std::size_t line_length = 78;
-  std::string text;
-  std::string line = "Columns:";
-  for (const column& c : columns) {
-    const std::string name = std::string(" ") + c.key;
-    if (line.size() + name.size() > line_length) text += std::exchange(line, " ") + "\n";
-    line += name;
-  }
-  return text + line + "\n";
-}
-
-int write_document(const payment_arguments& arguments, std::string_view document) {
-  const bool to_file = arguments.output != "-";
-  const std::string name = to_file ? arguments.output : "standard output";
-  // Made before: once the file is written nothing fails any more.
-  const document_form form{arguments.rulebook, !arguments.lenient};
-  std::string summary;
-  for (const std::string& line : document_summary(document, form, name)) {
-    summary += printable_line(line);
-  }
-  const std::string fault =
-      to_file ? replace_file(arguments.output, document) : write_standard_output(document);
-  if (!fault.empty()) {
-    print_error(name + ": " + fault);
-    return exit_failure;
-  }
-  print_lines(summary);
-  return exit_success;
-}
-
-// Returns the document of a file that has no fault, and null for one that has any.
-document_handle document_without_faults(const payment_header& header, input_file& input,
-                                        const row_format& format) {
-  std::string none;
-  const message_handle message = make_message(header, none);
-  schema_probe probe(header, probing::first_fault);
-  fault_report faults(input.name());
-  add_transactions(message.get(), input, format, probe, faults);
-  return document_handle(faults.empty() ? tivex_toXML(message.get()) : nullptr);
+  std::string text = "Columns:";
+  for (const column& c : columns) text.append(" ").append(c.key);
+  return wrapped(text, 0) + '\n';
 }
 
 int run(const payment_command& command, const payment_arguments& arguments) {
-  const std::string unknown = select_rulebook(arguments.rulebook);
-  if (!unknown.empty()) return usage_error("--rulebook: " + unknown);
-  const payment_header header = header_of(command, arguments);
-  std::string fault;
-  message_handle message = make_message(header, fault);
-  schema_probe probe(header, probing::every_fault);
-  if (fault.empty()) fault = probe.header_fault();
-  if (!fault.empty()) return usage_error(fault);
-
-  if (is_file_to_read(arguments.output, arguments.input)) {
-    return usage_error("--output: " + arguments.output + " is the file to read");
+  const payment_order order{header_of(command, arguments),
+                            {command.transactions, delimiters.at(arguments.delimiter),
+                             arguments.rulebook, !arguments.quiet},
+                            arguments.input,
+                            arguments.output,
+                            arguments.json ? fault_form::json : fault_form::text,
+                            arguments.all_faults ? fault_extent::all : fault_extent::first,
+                            !arguments.quiet};
+  const std::string fault = prepare(order);
+  if (!fault.empty()) {
+    print_error(fault);
+    return exit_usage;
   }
-  input_file input(arguments.input);
-  fault_report faults(input.name());
-  const row_format format{command.transactions, delimiters.at(arguments.delimiter),
-                          arguments.rulebook};
-  // Looking for every row that the schema refuses takes as long as all else.
-  if (header.strict && input.size().value_or(roomy_file) < roomy_file) {
-    if (const document_handle document = document_without_faults(header, input, format)) {
-      return write_document(arguments, document.get());
-    }
-    input.start_again();
-  }
-  add_transactions(message.get(), input, format, probe, faults);
-  if (!faults.empty()) {
-    faults.print();
-    return exit_failure;
-  }
-  const document_handle document(tivex_toXML(message.get()));
-  if (!document) {
-    print_error(header_flaw(library_error(message.get())));
-    return exit_failure;
-  }
-  message.reset();
-  return write_document(arguments, document.get());
+  return write_payments(order) ? exit_success : exit_failure;
 }
 
 }  // namespace
@@ -162,6 +93,12 @@ void add_payment_command(CLI::App& program, const payment_command& command, int&
       ->type_name("CHAR")
       ->check(CLI::IsMember(delimiters).description(""))
       ->capture_default_str();
+  parser->add_flag("--json", arguments->json,
+                   "Tell summary and faults as JSON, one object a line; the summary goes to "
+                   "standard output when the document does not");
+  parser->add_flag("--quiet", arguments->quiet, "Print no summary and no progress, faults only");
+  parser->add_flag("--all-faults", arguments->all_faults,
+                   "Tell every fault, not the first 20 and the number of the others");
   parser
       ->add_option("FILE", arguments->input,
                    "CSV file with one transaction a line; - for standard input")

@@ -20,13 +20,14 @@ namespace tivex_program {
 namespace {
 
 constexpr const char* example =
-    R"(Entries stand under their booking date. R marks a reversal, which takes its amount
-back; the table shows amounts by what they do to the balance, JSON and CSV as the
-file has them.
+    R"(Entries stand under their booking date. R marks a reversal, which takes its
+amount back; the table shows amounts by what they do to the balance, JSON and
+CSV as the file has them.
 
 Examples:
   tivex statement november.sta
-  tivex statement --format csv --from 2026-11-16 --to 2026-11-30 *.sta >entries.csv)";
+  tivex statement --json november.sta
+  tivex statement --format csv --from 2026-11-16 --to 2026-11-30 *.sta >out.csv)";
 
 struct statement_format {
   void (*begin)();
@@ -48,6 +49,8 @@ struct statement_query {
   std::string to;
   std::string encoding = "auto";
   bool strict = false;
+  bool json = false;
+  bool quiet = false;
   statement_period period;
 };
 
@@ -69,6 +72,7 @@ class statement_printer {
  private:
   void print_file(const std::string& name) {
     const statement_file file = read_statement_file(name, query_.strict);
+    if (!file.note.empty() && !query_.quiet) print_note(name + ": " + file.note);
     if (!file.error.empty()) return fail(name + ": " + file.error);
     // In a file of UTF-8 a text that is none has been cut within a character.
     const text_encoding encoding =
@@ -125,16 +129,27 @@ statement_period period_of(const statement_query& query) {
   return period;
 }
 
+// A format that is given besides --json has to be the same.
+void choose_json(statement_query& query, const CLI::Option& format) {
+  if (!query.json) return;
+  if (format.count() > 0 && query.format != "json") {
+    throw CLI::ValidationError("--json", "contradicts --format " + query.format);
+  }
+  query.format = "json";
+}
+
 }  // namespace
 
 void add_statement(CLI::App& program, int& exit_status) {
   CLI::App* const command =
       program.add_subcommand("statement", "Print bank statements of SWIFT MT940 files");
   const auto query = std::make_shared<statement_query>();
-  command->add_option("--format", query->format, "What to print: table, json or csv")
-      ->type_name("NAME")
-      ->check(CLI::IsMember(formats).description(""))
-      ->capture_default_str();
+  CLI::Option* const format =
+      command->add_option("--format", query->format, "What to print: table, json or csv")
+          ->type_name("NAME")
+          ->check(CLI::IsMember(formats).description(""))
+          ->capture_default_str();
+  command->add_flag("--json", query->json, "The same as --format json");
   add_date_option(*command, "--from", query->from, "First date of entries, YYYY-MM-DD");
   add_date_option(*command, "--to", query->to, "Last date of entries");
   command
@@ -145,11 +160,13 @@ void add_statement(CLI::App& program, int& exit_status) {
       ->check(CLI::IsMember(text_encodings).description(""))
       ->capture_default_str();
   command->add_flag("--strict", query->strict, "Do not put line ends right");
+  command->add_flag("--quiet", query->quiet, "Print no notes on standard error, errors only");
   command->add_option("FILE", query->files, "MT940 files; - for standard input")
       ->type_name("")
       ->required();
   command->footer(example);
-  command->callback([&exit_status, query] {
+  command->callback([&exit_status, query, format] {
+    choose_json(*query, *format);
     query->period = period_of(*query);
     exit_status = run(*query);
   });

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include "payments/ascii_case.h"
-#include "payments/nearest_name.h"
+#include "terminal/ascii_case.h"
+#include "terminal/nearest_name.h"
 
 namespace tivex_program {
 namespace {

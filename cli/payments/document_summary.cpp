@@ -1,7 +1,9 @@
 #include "payments/document_summary.h"
 
-#include <cstddef>
+#include <charconv>
 
+#include "terminal/diagnostics.h"
+#include "terminal/json_line.h"
 #include "terminal/labelled_line.h"
 
 namespace tivex_program {
@@ -26,21 +28,53 @@ std::size_t count_blocks(std::string_view document) {
   return found;
 }
 
+std::size_t number(std::string_view digits) {
+  std::size_t value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
+constexpr const char* currency = "EUR";
+
 }  // namespace
 
-std::vector<std::string> document_summary(std::string_view document, const document_form& form,
-                                          const std::string& file) {
+document_summary summarize(std::string_view document, const document_form& form) {
   const std::string_view header = between(document, "<GrpHdr>", "</GrpHdr>");
-  const std::string_view transactions = between(header, "<NbOfTxs>", "<");
-  const std::string_view sum = between(header, "<CtrlSum>", "<");
-  const std::string schema(between(document, ":xsd:", "\""));
+  const std::string message(between(document, ":xsd:", "\""));
   const char* const subset = form.rulebook.starts_with("DE") ? " (German subset)" : "";
-  return {labelled_line("transactions", std::string(transactions)),
-          labelled_line("sum", std::string(sum) + " EUR"),
-          labelled_line("payment blocks", std::to_string(count_blocks(document))),
-          labelled_line("rulebook", form.rulebook + " (" + schema + ")"),
-          labelled_line("schema", form.strict ? "meets " + schema + subset : "not checked"),
-          labelled_line("file", file)};
+  return {number(between(header, "<NbOfTxs>", "<")),
+          std::string(between(header, "<CtrlSum>", "<")),
+          count_blocks(document),
+          form.rulebook,
+          message,
+          form.strict ? "meets " + message + subset : std::string()};
+}
+
+std::string text_of(const document_summary& summary, const std::string& file) {
+  const auto line = [](std::string_view label, const std::string& value) {
+    return printable_line(labelled_line(label, value));
+  };
+  return line("transactions", std::to_string(summary.transactions)) +
+         line("sum", summary.sum + " " + currency) +
+         line("payment blocks", std::to_string(summary.payment_blocks)) +
+         line("rulebook", summary.rulebook + " (" + summary.message + ")") +
+         line("schema", summary.schema.empty() ? "not checked" : summary.schema) +
+         line("file", file.empty() ? "standard output" : file);
+}
+
+std::string json_of(const document_summary& summary, const std::string& file) {
+  std::string text;
+  json_line line(text);
+  line.add_number("transactions", summary.transactions);
+  line.add_text("sum", summary.sum);
+  line.add_text("currency", currency);
+  line.add_number("payment_blocks", summary.payment_blocks);
+  line.add_text("rulebook", summary.rulebook);
+  line.add_text("message", summary.message);
+  line.add_text_or_null("schema", summary.schema);
+  line.add_text_or_null("file", file);
+  line.end();
+  return text + '\n';
 }
 
 }  // namespace tivex_program

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tivex_program {
 
@@ -11,9 +11,22 @@ struct document_form {
   bool strict;  // whether the schema accepts the document
 };
 
-// Returns what a document says about itself in its group header, its payment
-// blocks and its namespace, and what is known of its form, as lines for the user.
-std::vector<std::string> document_summary(std::string_view document, const document_form& form,
-                                          const std::string& file);
+// What a document says about itself in its group header, its payment blocks and its
+// namespace, and what is known of its form.
+struct document_summary {
+  std::size_t transactions;
+  std::string sum;  // of euros
+  std::size_t payment_blocks;
+  std::string rulebook;
+  std::string message;
+  std::string schema;  // what it meets, empty when that is not known
+};
+
+document_summary summarize(std::string_view document, const document_form& form);
+
+// The summary with the document's file, empty for standard output: printable lines for the
+// user, and a line of JSON.
+std::string text_of(const document_summary& summary, const std::string& file);
+std::string json_of(const document_summary& summary, const std::string& file);
 
 }  // namespace tivex_program

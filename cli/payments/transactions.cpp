@@ -44,7 +44,7 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   const auto columns = resolve_header(row, format.kind.columns, format.rulebook, faults);
   if (!faults.empty()) return;
 
-  progress_line progress(input.size());
+  progress_line progress(input.size(), format.shows_progress);
   std::vector<tivex_keyvalue_t> list;
   std::uint64_t rows = 0;
   std::uint64_t taken = 0;

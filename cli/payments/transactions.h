@@ -10,11 +10,12 @@
 
 namespace tivex_program {
 
-// What the rows of a CSV file are read as.
+// How the rows of a CSV file are read.
 struct row_format {
   const transaction_kind& kind;
   char delimiter;
   std::string rulebook;
+  bool shows_progress;
 };
 
 // Adds each row of the file to the message as one transaction and has the probe look

@@ -9,6 +9,11 @@ namespace tivex_program {
 
 bool errors_go_to_terminal() { return ::isatty(STDERR_FILENO) == 1; }
 
+bool takes_colours(int stream) {
+  const char* const kind = std::getenv("TERM");
+  return kind != nullptr && std::string_view(kind) != "dumb" && ::isatty(stream) == 1;
+}
+
 std::string temporary_folder() {
   const char* const directory = std::getenv("TMPDIR");
   const bool usual = directory == nullptr || *directory == '\0';

@@ -9,6 +9,10 @@ namespace tivex_program {
 // Whether standard error is a terminal.
 bool errors_go_to_terminal();
 
+// Whether standard output (1) or standard error (2) is a terminal that takes the sequences
+// for colours.
+bool takes_colours(int stream);
+
 // The folder of temporary files, with a separator at its end: $TMPDIR or /tmp, and on
 // Windows that of the user.
 std::string temporary_folder();

@@ -17,6 +17,9 @@ constexpr std::size_t longest_path = 32768;
 
 bool errors_go_to_terminal() { return is_console(2); }
 
+// A console takes them only when it is told to, and would stay so after the program.
+bool takes_colours(int) { return false; }
+
 std::string temporary_folder() {
   std::array<wchar_t, longest_path> folder{};
   const DWORD length = ::GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());

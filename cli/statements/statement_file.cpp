@@ -8,7 +8,6 @@
 #include "files/wiped_bytes.h"
 #include "platform/exhausted_memory.h"
 #include "statements/statement_lines.h"
-#include "terminal/diagnostics.h"
 #include "terminal/library_text.h"
 
 namespace tivex_program {
@@ -61,13 +60,12 @@ statement_file read_statement_file(const std::string& name, bool strict) {
   }
   const std::string_view text = view(content).substr(0, view(content).find('\0'));
   if (text.size() < content.size()) {
-    print_error(name + ": text ends at a NUL byte at offset " + std::to_string(text.size()));
+    file.note = "text ends at a NUL byte at offset " + std::to_string(text.size());
   }
   file.is_utf8 = is_utf8(text);
 
   wiped_bytes lines = strict ? wiped_bytes() : with_statement_lines(text);
   if (!strict && view(lines) != text) {
-    print_error(name + ": line ends normalised");
     file.error = load_copy(file, view(lines));
   } else if (name != "-" && input.size()) {
     file.error = load(file, name, text.empty());

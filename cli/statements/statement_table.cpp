@@ -7,12 +7,18 @@
 #include <string_view>
 
 #include "statements/one_line.h"
+#include "terminal/colours.h"
 #include "terminal/labelled_line.h"
 
 namespace tivex_program {
 namespace {
 
 constexpr std::size_t date_width = 10;
+
+// An amount as it is shown: what has gone is red.
+std::string shown(const std::string& amount) {
+  return amount.starts_with('-') ? coloured(amount, colour::red, 1) : amount;
+}
 
 std::string date_text(const std::optional<statement_date>& date) {
   return date ? to_text(*date) : "-";
@@ -67,7 +73,7 @@ std::string entry_line(const statement_view& view, const tivex_stmt_tx_t& entry,
   const std::string amount = to_text(effect_of(entry));
   const std::string name = name_of(view, entry);
   std::string line = "  " + date + blanks_up_to(date_width, date) + "  " +
-                     blanks_up_to(frame.amount_width, amount) + amount +
+                     blanks_up_to(frame.amount_width, amount) + shown(amount) +
                      (entry.reversal != 0 ? " R  " : "    ");
   if (frame.name_width > 0) line += name + blanks_up_to(frame.name_width, name) + "  ";
   line += text_of(view, entry);
@@ -83,7 +89,7 @@ std::string or_dash(const std::string& text) { return text.empty() ? "-" : text;
 
 // A dash when the statement has no such balance.
 std::string balance_text(double balance, const char* currency) {
-  return *currency == '\0' ? "-" : to_text(cents_of(balance));
+  return *currency == '\0' ? "-" : shown(to_text(cents_of(balance)));
 }
 
 void print_head(const statement_view& view) {
@@ -113,12 +119,14 @@ void print_foot(const statement_view& view, const entry_totals& totals) {
   const std::size_t all = count_all(statement);
   const std::string count = std::to_string(totals.count);
   print_line("entries", totals.count == all ? count : count + " of " + std::to_string(all));
-  print_line("credits", to_text(totals.credits));
-  print_line("debits", to_text(totals.debits));
+  print_line("credits", shown(to_text(totals.credits)));
+  print_line("debits", shown(to_text(totals.debits)));
   print_line("closing balance",
              balance_text(statement.closing_balance, statement.closing_currency));
   print_line("balance check",
-             view.balance_fault.empty() ? "adds up" : one_line(view.balance_fault, view.encoding));
+             view.balance_fault.empty()
+                 ? "adds up"
+                 : coloured(one_line(view.balance_fault, view.encoding), colour::bold_red, 1));
 }
 
 }  // namespace

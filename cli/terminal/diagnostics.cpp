@@ -1,8 +1,10 @@
 #include "terminal/diagnostics.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "files/utf8.h"
+#include "terminal/colours.h"
 
 namespace tivex_program {
 namespace {
@@ -34,7 +36,13 @@ std::string printable(std::string_view text) {
 
 std::string printable_line(std::string_view text) { return printable(text) + '\n'; }
 
-void print_error(std::string_view text) { print_lines(printable_line(text)); }
+void print_error(std::string_view text) {
+  const std::string line = printable_line(text);
+  const std::size_t place = std::min(line.find(": "), line.size() - 1);
+  print_lines(coloured(line.substr(0, place), colour::bold_red, 2) + line.substr(place));
+}
+
+void print_note(std::string_view text) { print_lines(printable_line(text)); }
 
 void print_lines(std::string_view lines) { std::fwrite(lines.data(), 1, lines.size(), stderr); }
 

@@ -12,8 +12,12 @@ std::string printable(std::string_view text);
 // Returns the text as such a line.
 std::string printable_line(std::string_view text);
 
-// Writes one printable line to standard error.
+// Writes one printable line to standard error. On a terminal what stands before the first
+// ": ", mostly a place, is in a colour.
 void print_error(std::string_view text);
+
+// Writes such a line in which nothing has failed.
+void print_note(std::string_view text);
 
 // Writes printable lines as they are, and needs no memory for it.
 void print_lines(std::string_view lines);

@@ -1,31 +1,51 @@
 #include "terminal/fault_report.h"
 
 #include "terminal/diagnostics.h"
+#include "terminal/json_line.h"
 
 namespace tivex_program {
+namespace {
 
-void fault_report::add(const std::string& text) { record(file_ + ": " + text); }
-
-void fault_report::add(std::size_t line, const std::string& text) {
-  record(file_ + ":" + std::to_string(line) + ": " + text);
+std::string line_of_text(const std::string& file, const file_fault& fault) {
+  std::string line = file;
+  if (fault.line > 0) line += ':' + std::to_string(fault.line);
+  if (!fault.key.empty()) line += ": " + fault.key;
+  return line + ": " + fault.text;
 }
 
-void fault_report::add(std::size_t line, const std::string& key, const std::string& text) {
-  add(line, key.empty() ? text : key + ": " + text);
-}
-
-void fault_report::print() const {
-  for (const std::string& line : lines_) print_error(line);
-  const std::size_t others = count_ - lines_.size();
-  if (others > 0) {
-    print_error(file_ + ": " + std::to_string(others) +
-                (others == 1 ? " more fault" : " more faults"));
+std::string line_of_json(const std::string& file, const file_fault& fault) {
+  std::string text;
+  json_line line(text);
+  line.add_text("file", file);
+  if (fault.line > 0) {
+    line.add_number("line", fault.line);
+  } else {
+    line.add_null("line");
   }
+  line.add_text_or_null("key", fault.key);
+  line.add_text("fault", fault.text);
+  line.end();
+  return text + '\n';
 }
 
-void fault_report::record(std::string line) {
+}  // namespace
+
+void print_fault(fault_form form, const std::string& file, const file_fault& fault) {
+  if (form == fault_form::json) return print_lines(line_of_json(file, fault));
+  print_error(line_of_text(file, fault));
+}
+
+void fault_report::print(fault_form form) const {
+  for (const file_fault& fault : faults_) print_fault(form, file_, fault);
+  const std::size_t others = count_ - faults_.size();
+  if (others == 0) return;
+  print_fault(form, file_,
+              {0, "", std::to_string(others) + (others == 1 ? " more fault" : " more faults")});
+}
+
+void fault_report::record(file_fault fault) {
   ++count_;
-  if (!full()) lines_.push_back(std::move(line));
+  if (!full()) faults_.push_back(std::move(fault));
 }
 
 }  // namespace tivex_program

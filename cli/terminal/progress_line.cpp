@@ -14,9 +14,9 @@ constexpr auto interval = std::chrono::milliseconds(250);
 
 }  // namespace
 
-progress_line::progress_line(std::optional<std::uint64_t> total_bytes)
+progress_line::progress_line(std::optional<std::uint64_t> total_bytes, bool wanted)
     : total_bytes_(total_bytes),
-      on_terminal_(errors_go_to_terminal()),
+      shown_(wanted && errors_go_to_terminal()),
       due_(clock::now() + patience) {}
 
 progress_line::~progress_line() {
@@ -25,7 +25,7 @@ progress_line::~progress_line() {
 }
 
 void progress_line::show(std::uint64_t rows, std::uint64_t bytes) {
-  if (!on_terminal_ || clock::now() < due_) return;
+  if (!shown_ || clock::now() < due_) return;
   due_ = clock::now() + interval;
   std::string text = std::to_string(rows) + " rows read";
   if (total_bytes_.value_or(0) > 0) {

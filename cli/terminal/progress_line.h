@@ -11,7 +11,7 @@ namespace tivex_program {
 // reading lasts, and is gone afterwards; without a terminal nothing is shown.
 class progress_line {
  public:
-  explicit progress_line(std::optional<std::uint64_t> total_bytes);
+  explicit progress_line(std::optional<std::uint64_t> total_bytes, bool wanted = true);
   ~progress_line();
   progress_line(const progress_line&) = delete;
   progress_line& operator=(const progress_line&) = delete;
@@ -22,7 +22,7 @@ class progress_line {
   using clock = std::chrono::steady_clock;
 
   std::optional<std::uint64_t> total_bytes_;
-  bool on_terminal_;
+  bool shown_;
   clock::time_point due_;
   std::size_t width_ = 0;
 };

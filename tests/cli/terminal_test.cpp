@@ -1,4 +1,4 @@
-// The progress line: standard error is a terminal, the input comes as it is fed.
+// What is shown on terminals only; the input comes as it is fed.
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <pty.h>
@@ -13,12 +13,11 @@ namespace {
 
 class terminal_run {
  public:
-  terminal_run() {
+  // Of the line each % stands for the terminal.
+  explicit terminal_run(const std::string& line) {
     char name[256];
     if (openpty(&terminal_, &program_end_, name, nullptr, nullptr) != 0) std::abort();
-    const std::string line =
-        "'" TIVEX_PROGRAM "' credit-transfer --name A --iban DE89370400440532013000 --lenient - 2>";
-    input_ = popen((line + name + " >/dev/null").c_str(), "w");
+    input_ = popen(replaced(line, "%", name).c_str(), "w");
   }
   ~terminal_run() { close(terminal_); }
 
@@ -48,9 +47,14 @@ class terminal_run {
   FILE* input_ = nullptr;
 };
 
+constexpr const char* transfer =
+    "'" TIVEX_PROGRAM
+    "' credit-transfer --name A --iban DE89370400440532013000 --lenient - 2>% "
+    ">/dev/null";
+
 TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {
   using clock = std::chrono::steady_clock;
-  terminal_run program;
+  terminal_run program(transfer);
   const auto start = clock::now();
   program.feed("iban,amount\n");
   std::string screen;
@@ -67,9 +71,37 @@ TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {
 }
 
 TEST(Progress, DoesNotAppearForAShortFile) {
-  terminal_run program;
+  terminal_run program(transfer);
   program.feed(with_ibans("iban,amount\n@,1\n"));
   EXPECT_TRUE(program.finish().starts_with("transactions "));
+}
+
+// What the program shows of a missing file and of a statement that does not add up.
+std::string screen_of_faults(const std::string& environment) {
+  terminal_run program(environment + " '" TIVEX_PROGRAM "' statement missing - >% 2>%; true");
+  program.feed(
+      "\r\n:20:R\r\n:28C:1\r\n:60F:C261101EUR1,00\r\n:61:261102D3,00NTRFNONREF\r\n"
+      ":62F:D261130EUR3,00\r\n");
+  return program.finish();
+}
+
+TEST(Colours, MarkPlacesOfFaultsAndNegativeAmounts) {
+  const std::string screen = screen_of_faults("TERM=xterm NO_COLOR=");
+  for (const char* const part :
+       {"\x1B[1;31mmissing\x1B[m: Can't open", "2026-11-02  \x1B[31m-3.00\x1B[m\r\n",
+        "credits         0.00\r\ndebits          \x1B[31m-3.00\x1B[m\r\n",
+        "balance check   \x1B[1;31mopening balance and entries make -2.00, the closing balance is "
+        "-3.00\x1B[m\r\n"})
+    EXPECT_PRED_FORMAT2(testing::IsSubstring, part, screen);
+}
+
+TEST(Colours, AreLeftOutOnRequest) {
+  for (const char* const environment :
+       {"TERM=xterm NO_COLOR=1", "TERM=dumb NO_COLOR=", "env -u TERM NO_COLOR="}) {
+    const std::string screen = screen_of_faults(environment);
+    EXPECT_PRED_FORMAT2(testing::IsSubstring, "missing: Can't open", screen);
+    EXPECT_PRED_FORMAT2(testing::IsNotSubstring, "\x1B", screen);
+  }
 }
 
 }  // namespace

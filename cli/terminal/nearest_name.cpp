@@ -1,11 +1,11 @@
-#include "payments/nearest_name.h"
+#include "terminal/nearest_name.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
 #include <vector>
 
-#include "payments/ascii_case.h"
+#include "terminal/ascii_case.h"
 
 namespace tivex_program {
 namespace {
@@ -32,6 +32,13 @@ std::string_view nearest_name(std::string_view name, std::span<const std::string
                            [&](std::string_view a, std::string_view b) {
                              return distance(name, a) < distance(name, b);
                            });
+}
+
+std::string near_name(std::string_view name, std::span<const std::string_view> candidates) {
+  if (candidates.empty()) return {};
+  const std::string_view nearest = nearest_name(name, candidates);
+  if (distance(name, nearest) * 3 > nearest.size()) return {};
+  return " (did you mean '" + std::string(nearest) + "'?)";
 }
 
 }  // namespace tivex_program
