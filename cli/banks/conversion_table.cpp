@@ -1,12 +1,14 @@
 #include "banks/conversion_table.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "banks/iban_conversion.h"
+#include "files/column_reader.h"
 #include "files/csv_cell.h"
 #include "files/csv_reader.h"
+#include "terminal/json_text.h"
 #include "terminal/progress_line.h"
 
 namespace tivex_program {
@@ -27,69 +29,101 @@ void append_row(std::string& text, const std::vector<std::string>& cells,
   text += '\n';
 }
 
-// Where a column stands; the number of columns when it is missing.
-std::size_t find(const std::vector<std::string>& header, const std::string& name) {
-  return static_cast<std::size_t>(std::find(header.begin(), header.end(), name) - header.begin());
+struct conversion_columns {
+  std::size_t bank_code = 0;
+  std::size_t account = 0;
+  std::size_t header_size = 0;
+  std::string fault;  // why the header is no good, empty when it is
+};
+
+conversion_columns find_columns(const csv_row& header) {
+  conversion_columns columns;
+  columns.header_size = header.cells.size();
+  columns.fault = header.fault;
+  for (const auto& [name, place] : {std::pair("bank_code", &conversion_columns::bank_code),
+                                    std::pair("account", &conversion_columns::account)}) {
+    if (!columns.fault.empty()) return columns;
+    const column_place found = find_column(header.cells, name);
+    columns.*place = found.place;
+    columns.fault = found.fault;
+  }
+  return columns;
 }
 
-std::string header_fault(const csv_row& header) {
-  if (!header.fault.empty()) return header.fault;
-  for (const char* const wanted : {"bank_code", "account"}) {
-    if (std::count(header.cells.begin(), header.cells.end(), wanted) == 1) continue;
-    return "the header does not name one column '" + std::string(wanted) +
-           "' (is another --delimiter needed?)";
-  }
+// Why no columns may be added to the header, empty when they may.
+std::string addition_fault(const csv_row& header) {
   for (const std::string& added : added_columns) {
-    if (find(header.cells, added) < header.cells.size()) {
+    if (std::ranges::count(header.cells, added) > 0) {
       return "column '" + added + "' would occur twice";
     }
   }
   return {};
 }
 
-iban_conversion convert_row(const csv_row& row, const std::vector<std::string>& header) {
+iban_conversion convert_row(const csv_row& row, const conversion_columns& columns) {
   iban_conversion conversion;
+  conversion.status = row_fault(row, columns.header_size);
+  // Of a row that cannot be read its line is all that can be told.
   if (!row.fault.empty()) {
-    // Of a row that cannot be read its line is all that can be told.
     conversion.status = "line " + std::to_string(row.line) + ": " + row.fault;
-  } else if (row.cells.size() != header.size()) {
-    conversion.status = std::to_string(row.cells.size()) + " cells, the header names " +
-                        std::to_string(header.size());
-  } else {
-    return convert_account(row.cells[find(header, "bank_code")],
-                           row.cells[find(header, "account")]);
   }
-  return conversion;
+  if (!conversion.status.empty()) return conversion;
+  return convert_account(row.cells[columns.bank_code], row.cells[columns.account]);
+}
+
+void append_object(std::string& text, const csv_row& row, const conversion_columns& columns,
+                   const iban_conversion& conversion) {
+  json_object object;
+  object["line"] = row.line;
+  if (row_fault(row, columns.header_size).empty()) {
+    object["bank_code"] = json_text(row.cells[columns.bank_code]);
+    object["account"] = json_text(row.cells[columns.account]);
+  } else {
+    object["bank_code"] = nullptr;
+    object["account"] = nullptr;
+  }
+  add_conversion(object, conversion);
+  text += object.dump();
+  text += '\n';
 }
 
 }  // namespace
 
-conversion_table convert_rows(input_file& input, char delimiter) {
-  conversion_table table;
+conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
+                               const line_taker& take) {
+  conversion_totals totals;
   csv_reader reader(input, delimiter);
   csv_row row;
   if (!reader.next(row)) {
-    table.error = input.name() + ": " + (input.error().empty() ? "no header" : input.error());
-    return table;
+    totals.error = input.name() + ": " + (input.error().empty() ? "no header" : input.error());
+    return totals;
   }
-  const std::string fault = header_fault(row);
+  const bool as_csv = form == conversion_form::csv;
+  const conversion_columns columns = find_columns(row);
+  std::string fault = columns.fault;
+  if (fault.empty() && as_csv) fault = addition_fault(row);
   if (!fault.empty()) {
-    table.error = input.name() + ':' + std::to_string(row.line) + ": " + fault;
-    return table;
+    totals.error = input.name() + ':' + std::to_string(row.line) + ": " + fault;
+    return totals;
   }
-  const std::vector<std::string> header = row.cells;
-  append_row(table.text, header, added_columns, delimiter);
+  std::string text;
+  if (as_csv) append_row(text, row.cells, added_columns, delimiter);
   progress_line progress(input.size());
-  while (reader.next(row)) {
-    const iban_conversion conversion = convert_row(row, header);
-    ++(conversion.made() ? table.converted : table.refused);
-    row.cells.resize(std::max(row.cells.size(), header.size()));
-    append_row(table.text, row.cells,
-               {conversion.iban, conversion.bic, conversion.bank, conversion.status}, delimiter);
-    progress.show(table.converted + table.refused, input.bytes_read());
+  while (take(text) && reader.next(row)) {
+    const iban_conversion conversion = convert_row(row, columns);
+    ++(conversion.made() ? totals.converted : totals.refused);
+    text.clear();
+    if (as_csv) {
+      row.cells.resize(std::max(row.cells.size(), columns.header_size));
+      append_row(text, row.cells,
+                 {conversion.iban, conversion.bic, conversion.bank, conversion.status}, delimiter);
+    } else {
+      append_object(text, row, columns, conversion);
+    }
+    progress.show(totals.converted + totals.refused, input.bytes_read());
   }
-  if (!input.error().empty()) table.error = input.name() + ": " + input.error();
-  return table;
+  if (!input.error().empty()) totals.error = input.name() + ": " + input.error();
+  return totals;
 }
 
 }  // namespace tivex_program

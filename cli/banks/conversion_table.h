@@ -1,21 +1,30 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "files/input_file.h"
 
 namespace tivex_program {
 
-// A CSV file with the IBANs of another one's bank codes and accounts.
-struct conversion_table {
-  std::string text;
+// CSV: the file itself with iban, bic, bank and status behind each row. JSON: an object
+// for each row, a line each.
+enum class conversion_form { csv, json };
+
+struct conversion_totals {
   std::size_t converted = 0;
   std::size_t refused = 0;
-  std::string error;  // why there is no table, empty when there is one
+  std::string error;  // why the file could not be converted to its end, empty when it was
 };
 
-// Appends iban, bic, bank and status to each row; rows that cannot be converted stay,
-// with the reason as their status.
-conversion_table convert_rows(input_file& input, char delimiter);
+// Takes a line, and false ends the conversion.
+using line_taker = std::function<bool(std::string_view line)>;
+
+// Makes the IBANs of a CSV file's bank codes and accounts. Rows that cannot be converted
+// stay, with the reason as their status.
+conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
+                               const line_taker& take);
 
 }  // namespace tivex_program

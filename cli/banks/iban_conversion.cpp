@@ -67,4 +67,12 @@ iban_conversion convert_account(const std::string& bank_code, const std::string&
   return conversion;
 }
 
+void add_conversion(json_object& object, const iban_conversion& conversion) {
+  object["iban"] = json_text_or_null(conversion.iban);
+  object["bic"] = json_text_or_null(conversion.bic);
+  object["bank"] = json_text_or_null(conversion.bank);
+  object["status"] = json_text(conversion.status);
+  object["converted"] = conversion.made();
+}
+
 }  // namespace tivex_program

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "terminal/json_text.h"
+
 namespace tivex_program {
 
 // The IBAN of a German bank code and account number, or why there is none.
@@ -15,5 +17,8 @@ struct iban_conversion {
 };
 
 iban_conversion convert_account(const std::string& bank_code, const std::string& account);
+
+// Adds what became of the account to an object that names it.
+void add_conversion(json_object& object, const iban_conversion& conversion);
 
 }  // namespace tivex_program

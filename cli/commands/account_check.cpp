@@ -7,29 +7,34 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "banks/german_numbers.h"
-#include "commands/each_argument.h"
+#include "commands/asked_items.h"
 #include "platform/exit_status.h"
 #include "terminal/diagnostics.h"
-#include "terminal/standard_output.h"
+#include "terminal/json_text.h"
 
 namespace tivex_program {
 namespace {
 
-constexpr const char* example = R"(Example:
+constexpr const char* example = R"(Examples:
   tivex account check --bank-code 37040044 532013000 532031000
 
 checks by the method of the bank's record in the directory and prints
 
   532013000: valid
-  532031000: invalid)";
+  532031000: invalid
+
+  tivex account check --bank-code 37040044 --json --input accounts.txt
+
+prints an object a line with "account", "bank_code", "method", "result" and
+"fault".)";
 
 struct account_query {
   std::string method;     // two characters, or empty
   std::string bank_code;  // or empty
-  std::vector<std::string> accounts;
+  asked_items accounts;
 };
 
 std::string method_fault(const std::string& text) {
@@ -49,9 +54,11 @@ std::optional<int> method_of(const account_query& query) {
   return method < 0 ? std::nullopt : std::optional(method);
 }
 
-int result_of(const std::string& account, const std::string& bank_code, int method) {
-  return bank_code.empty() ? tivex_account_check(account.c_str(), method)
-                           : tivex_account_check2(account.c_str(), bank_code.c_str(), method);
+// The text for a result of the library's.
+const char* verdict(int result) {
+  return result == TIVEX_ACCOUNT_INVALID       ? "invalid"
+         : result == TIVEX_ACCOUNT_NOT_CHECKED ? "not checked"
+                                               : "valid";
 }
 
 int run(const account_query& query) {
@@ -60,20 +67,29 @@ int run(const account_query& query) {
     print_error("bank code " + query.bank_code + ": not in the directory");
     return exit_failure;
   }
-  bool none_invalid = true;
-  const bool read = for_each_argument(query.accounts, [&](const std::string& account) {
-    const char* verdict = account_wanted;
-    int result = TIVEX_ACCOUNT_INVALID;
-    if (is_german_account(account)) {
-      result = result_of(account, query.bank_code, *method);
-      verdict = result == TIVEX_ACCOUNT_INVALID       ? "invalid"
-                : result == TIVEX_ACCOUNT_NOT_CHECKED ? "not checked"
-                                                      : "valid";
+  char code[8];
+  std::snprintf(code, sizeof code, "%02X", static_cast<unsigned>(*method));
+  const char* const bank_code = query.bank_code.c_str();
+  return answer_each(query.accounts, [&](std::string_view account, std::string& line) {
+    const bool fits = is_german_account(account);
+    const int result = !fits ? TIVEX_ACCOUNT_INVALID
+                       : query.bank_code.empty()
+                           ? tivex_account_check(account.data(), *method)
+                           : tivex_account_check2(account.data(), bank_code, *method);
+    if (query.accounts.json) {
+      json_object object;
+      object["account"] = json_text(account);
+      object["bank_code"] = json_text_or_null(query.bank_code);
+      object["method"] = code;
+      object["result"] = json_text_or_null(fits ? verdict(result) : "");
+      object["fault"] = json_text_or_null(fits ? "" : account_wanted);
+      line += object.dump();
+    } else {
+      append_subject(line, account);
+      line += fits ? verdict(result) : account_wanted;
     }
-    none_invalid = none_invalid && result != TIVEX_ACCOUNT_INVALID;
-    std::printf("%s: %s\n", printable(account).c_str(), verdict);
+    return result != TIVEX_ACCOUNT_INVALID;
   });
-  return flush_standard_output() && read && none_invalid ? exit_success : exit_failure;
 }
 
 void check_options(const account_query& query) {
@@ -100,12 +116,12 @@ void add_account_check(CLI::App& program, int& exit_status) {
   check->add_option("--bank-code", query->bank_code, "Bank code of 8 digits")
       ->type_name("CODE")
       ->check(CLI::Validator(german_bank_code_fault, ""));
-  check
-      ->add_option("ACCOUNT", query->accounts, "Account numbers; - for the lines of standard input")
-      ->type_name("")
-      ->required();
+  check->add_option("ACCOUNT", query->accounts.arguments, "Account numbers; - for the input")
+      ->type_name("");
+  add_asking_options(*check, query->accounts);
   check->footer(example);
-  check->callback([&exit_status, query] {
+  check->callback([&exit_status, check, query] {
+    check_asked(*check, query->accounts, "ACCOUNT or --input");
     check_options(*query);
     exit_status = run(*query);
   });

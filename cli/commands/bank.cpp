@@ -5,22 +5,24 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "banks/bank_handle.h"
+#include "commands/asked_items.h"
 #include "platform/exhausted_memory.h"
 #include "platform/exit_status.h"
 #include "terminal/diagnostics.h"
+#include "terminal/json_text.h"
 #include "terminal/labelled_line.h"
 #include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {
 
-constexpr const char* example = R"(Example:
+constexpr const char* example = R"(Examples:
   tivex bank DE 10000000
 
 prints
@@ -29,15 +31,20 @@ prints
   postcode        10591
   city            Berlin
   country         DE
-  BIC             MARKDEF1100)";
+  BIC             MARKDEF1100
+
+  tivex bank --json --input customers.csv --column iban --iban -
+
+prints an object a line with "query", "name", "postcode", "city", "country",
+"bic" and "fault"; of banks by their BIC with "schemes" too.)";
 
 // What is asked for: a country and bank code, an IBAN or a BIC.
 struct bank_query {
   std::string country;
-  std::string code;
+  std::optional<std::string> code;
   std::optional<std::string> iban;
   std::optional<std::string> bic;
-  bool json = false;
+  asked_items asked;  // what the latter three name, and an input
 };
 
 struct scheme {
@@ -58,7 +65,7 @@ std::vector<std::string> schemes_of(const tivex_bank_info_t& bank) {
 }
 
 // The library leaves the country of Swiss addresses empty.
-std::string country_of(const tivex_bank_info_t& bank) {
+const char* country_of(const tivex_bank_info_t& bank) {
   return *bank.country == '\0' ? "CH" : bank.country;
 }
 
@@ -89,52 +96,104 @@ void print_text(const tivex_bank_info_t& bank, bool with_schemes) {
 }
 
 void print_json(const tivex_bank_info_t& bank, bool with_schemes) {
-  nlohmann::ordered_json object;
+  json_object object;
   for (const named_field& field : fields_of(bank)) {
     // A bank without a BIC, say, has none rather than an empty one.
-    object[field.json_key] =
-        field.text.empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(field.text);
+    object[field.json_key] = json_text_or_null(field.text);
   }
   if (with_schemes) object["schemes"] = schemes_of(bank);
   std::puts(object.dump(2).c_str());
 }
 
-// What the query names, for messages.
-std::string subject(const bank_query& query) {
-  if (query.iban) return *query.iban;
-  if (query.bic) return *query.bic;
-  return query.country + ' ' + query.code;
-}
-
-std::string refusal(int result, const bank_query& query) {
+// Why the library found no bank, null when it found one.
+const char* refusal(int result) {
   switch (result) {
+    case 1:
+      return nullptr;
     case 0:
-      return subject(query) + ": there is a directory for AT, CH, DE and LI only";
+      return "there is a directory for AT, CH, DE and LI only";
     case -1:
-      return subject(query) + ": the IBAN is invalid";
+      return "the IBAN is invalid";
     case -2:
-      return subject(query) + ": not in the directory";
+      return "not in the directory";
     default:
       end_for_want_of_memory();
   }
 }
 
-int look_up(const bank_query& query, tivex_bank_info_t*& found) {
-  if (query.bic) return tivex_bic_getBank(query.bic->c_str(), &found);
-  if (query.iban) return tivex_iban_getBank(query.iban->c_str(), &found);
-  return tivex_bankid_check(query.country.c_str(), query.code.c_str(), &found);
+// Finds the bank behind what is asked for. Returns why there is none, null when there is.
+const char* look_up(const bank_query& query, std::string_view asked, bank_handle& bank) {
+  if (const char* const fault = nul_fault(asked)) return fault;
+  tivex_bank_info_t* found = nullptr;
+  const int result = query.bic    ? tivex_bic_getBank(asked.data(), &found)
+                     : query.iban ? tivex_iban_getBank(asked.data(), &found)
+                                  : tivex_bankid_check(query.country.c_str(), asked.data(), &found);
+  bank.reset(found);
+  return refusal(result);
 }
 
-int run(const bank_query& query) {
-  tivex_bank_info_t* found = nullptr;
-  const int result = look_up(query, found);
-  const bank_handle bank(found);
-  if (result != 1) {
-    print_error(refusal(result, query));
+int print_one(const bank_query& query) {
+  bank_handle bank;
+  const std::string& asked = query.asked.arguments.front();
+  if (const char* const fault = look_up(query, asked, bank)) {
+    print_error((query.code ? query.country + ' ' : "") + asked + ": " + fault);
     return exit_failure;
   }
-  (query.json ? print_json : print_text)(*bank, query.bic.has_value());
+  (query.asked.json ? print_json : print_text)(*bank, query.bic.has_value());
   return flush_standard_output() ? exit_success : exit_failure;
+}
+
+const char* or_empty(const char* text) { return text == nullptr ? "" : text; }
+
+void append_json(std::string& line, std::string_view asked, const tivex_bank_info_t* bank,
+                 bool with_schemes, const char* fault) {
+  json_object object;
+  object["query"] = json_text(asked);
+  object["name"] = json_text_or_null(bank == nullptr ? "" : bank->name);
+  object["postcode"] = json_text_or_null(bank == nullptr ? "" : or_empty(bank->postcode));
+  object["city"] = json_text_or_null(bank == nullptr ? "" : or_empty(bank->city));
+  object["country"] = json_text_or_null(bank == nullptr ? "" : country_of(*bank));
+  object["bic"] = json_text_or_null(bank == nullptr ? "" : bank->bic);
+  if (with_schemes) {
+    object["schemes"] = bank == nullptr ? json_object() : json_object(schemes_of(*bank));
+  }
+  object["fault"] = json_text_or_null(or_empty(fault));
+  line += object.dump();
+}
+
+// Appends what the directory has of the bank, separated by commas.
+void append_text(std::string& line, const tivex_bank_info_t& bank) {
+  std::string place = or_empty(bank.postcode);
+  const std::string_view city = or_empty(bank.city);
+  if (!place.empty() && !city.empty()) place += ' ';
+  place += city;
+  bool first = true;
+  for (const std::string_view part :
+       {std::string_view(bank.name), std::string_view(place), std::string_view(country_of(bank)),
+        std::string_view(bank.bic)}) {
+    if (part.empty()) continue;
+    if (!first) line += ", ";
+    first = false;
+    line += part;
+  }
+}
+
+int print_many(const bank_query& query) {
+  return answer_each(query.asked, [&](std::string_view asked, std::string& line) {
+    bank_handle bank;
+    const char* const fault = look_up(query, asked, bank);
+    if (query.asked.json) {
+      append_json(line, asked, bank.get(), query.bic.has_value(), fault);
+      return fault == nullptr;
+    }
+    append_subject(line, asked);
+    if (fault == nullptr) {
+      append_text(line, *bank);
+    } else {
+      line += fault;
+    }
+    return fault == nullptr;
+  });
 }
 
 }  // namespace
@@ -145,20 +204,30 @@ void add_bank(CLI::App& program, int& exit_status) {
   CLI::Option* const country =
       command->add_option("COUNTRY", query->country, "AT, CH, DE or LI")->type_name("");
   CLI::Option* const code =
-      command->add_option("CODE", query->code, "National bank code")->type_name("");
-  CLI::Option* const iban = command->add_option("--iban", query->iban, "IBAN of an account");
-  CLI::Option* const bic = command->add_option("--bic", query->bic, "BIC of 8 or 11 characters");
-  command->add_flag("--json", query->json, "Print a JSON object");
-  country->needs(code);
+      command->add_option("CODE", query->code, "National bank code; - for the input")
+          ->type_name("");
+  CLI::Option* const iban =
+      command->add_option("--iban", query->iban, "IBAN of an account; - as with CODE");
+  CLI::Option* const bic =
+      command->add_option("--bic", query->bic, "BIC of 8 or 11 characters; - as with CODE");
+  add_asking_options(*command, query->asked);
   code->needs(country);
   iban->excludes(country, code, bic);
   bic->excludes(country, code);
   command->footer(example);
   command->callback([&exit_status, command, query] {
-    if (command->count("CODE") + command->count("--iban") + command->count("--bic") == 0) {
+    const bool by_country = command->count("COUNTRY") > 0;
+    if (!by_country && !query->iban && !query->bic) {
       throw CLI::RequiredError("COUNTRY CODE, --iban or --bic");
     }
-    exit_status = run(*query);
+    if (by_country && !query->code && !query->asked.input) {
+      throw CLI::RequiresError("COUNTRY", "CODE");
+    }
+    for (const auto& each : {query->code, query->iban, query->bic}) {
+      if (each) query->asked.arguments.push_back(*each);
+    }
+    check_asked(*command, query->asked, "CODE");
+    exit_status = query->asked.many() ? print_many(*query) : print_one(*query);
   });
 }
 

@@ -1,72 +1,82 @@
 #include "commands/iban_check.h"
 
+#include <tivex.h>
+
 #include <CLI/CLI.hpp>
-#include <cstdio>
+#include <algorithm>
 #include <memory>
 #include <string>
-#include <vector>
+#include <string_view>
 
-#include "commands/each_argument.h"
+#include "commands/asked_items.h"
 #include "files/value_rules.h"
 #include "payments/library_calls.h"
-#include "platform/exit_status.h"
-#include "terminal/diagnostics.h"
-#include "terminal/standard_output.h"
+#include "terminal/json_text.h"
 
 namespace tivex_program {
 namespace {
 
-constexpr const char* example = R"(Example:
+constexpr const char* example = R"(Examples:
   tivex iban check DE89370400440532013000 DE88370400440532013000
 
 prints
 
   DE89370400440532013000: valid
-  DE88370400440532013000: Invalid IBAN checksum)";
+  DE88370400440532013000: Invalid IBAN checksum
 
-// Returns why the IBAN is invalid, empty when it is valid.
-std::string iban_fault(tivex_t* scratch, const std::string& iban) {
-  // The library would see a text with a NUL byte up to it only.
-  std::string fault = text_fault(iban);
-  if (!fault.empty() || tivex_setIBAN(scratch, iban.c_str()) == 1) return fault;
-  const std::string reason = library_error(scratch);
-  // What follows the reason repeats the IBAN.
-  return reason.substr(0, reason.find(" ("));
-}
+  tivex iban check --json --input customers.csv --column iban
 
-// Checks IBANs one by one and prints what it finds.
+prints an object a line with "iban", "valid" and "fault".)";
+
+// Tells why IBANs are invalid.
 class iban_checker {
  public:
-  void check(const std::string& iban) {
-    const std::string fault = iban_fault(scratch_.get(), iban);
-    if (!fault.empty()) all_valid_ = false;
-    std::printf("%s: %s\n", printable(iban).c_str(), fault.empty() ? "valid" : fault.c_str());
+  // Returns the reason, empty for a valid IBAN.
+  std::string fault_of(std::string_view iban) {
+    const bool whole = nul_fault(iban) == nullptr;
+    if (whole && tivex_iban_check(iban.data()) == 1) return {};
+    std::string fault = text_fault(iban);
+    if (!fault.empty() || tivex_setIBAN(scratch_.get(), iban.data()) == 1) return fault;
+    fault = library_error(scratch_.get());
+    // What follows the reason repeats the IBAN.
+    fault.resize(std::min(fault.find(" ("), fault.size()));
+    return fault;
   }
-
-  bool all_valid() const { return all_valid_; }
 
  private:
   message_handle scratch_ = new_message(TIVEX_CREDIT_TRANSFER);
-  bool all_valid_ = true;
 };
 
-int run(const std::vector<std::string>& ibans) {
+int run(const asked_items& asked) {
   iban_checker checker;
-  const bool read =
-      for_each_argument(ibans, [&checker](const std::string& iban) { checker.check(iban); });
-  return flush_standard_output() && read && checker.all_valid() ? exit_success : exit_failure;
+  return answer_each(asked, [&](std::string_view iban, std::string& line) {
+    const std::string fault = checker.fault_of(iban);
+    if (asked.json) {
+      json_object object;
+      object["iban"] = json_text(iban);
+      object["valid"] = fault.empty();
+      object["fault"] = json_text_or_null(fault);
+      line += object.dump();
+    } else {
+      append_subject(line, iban);
+      line += fault.empty() ? "valid" : fault;
+    }
+    return fault.empty();
+  });
 }
 
 }  // namespace
 
 void add_iban_check(CLI::App& ibans, int& exit_status) {
   CLI::App* const check = ibans.add_subcommand("check", "Tell for each IBAN whether it is valid");
-  const auto arguments = std::make_shared<std::vector<std::string>>();
-  check->add_option("IBAN", *arguments, "IBANs to check; - for the lines of standard input")
-      ->type_name("")
-      ->required();
+  const auto asked = std::make_shared<asked_items>();
+  check->add_option("IBAN", asked->arguments, "IBANs to check; - for the input")->type_name("");
+  add_asking_options(*check, *asked);
   check->footer(example);
-  check->callback([&exit_status, arguments] { exit_status = run(*arguments); });
+  check->callback([&exit_status, check, asked] {
+    check_asked(*check, *asked, "IBAN or --input");
+    exit_status = run(*asked);
+  });
 }
 
 }  // namespace tivex_program

@@ -3,19 +3,19 @@
 #include <tivex.h>
 
 #include <CLI/CLI.hpp>
-#include <cstdio>
 #include <memory>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "banks/conversion_table.h"
 #include "banks/german_numbers.h"
 #include "banks/iban_conversion.h"
-#include "commands/each_argument.h"
+#include "commands/asked_items.h"
 #include "files/delimiters.h"
 #include "platform/exit_status.h"
 #include "platform/output_file.h"
 #include "terminal/diagnostics.h"
+#include "terminal/json_text.h"
 #include "terminal/labelled_line.h"
 #include "terminal/standard_output.h"
 
@@ -32,77 +32,122 @@ prints
   tivex iban convert -o ibans.csv customers.csv
 
 reads the columns bank_code and account and writes each row again with the
-columns iban, bic, bank and status behind its own.)";
+columns iban, bic, bank and status behind its own. With --json each row becomes
+an object with "line", "bank_code", "account", "iban", "bic", "bank", "status"
+and "converted"; accounts become the same without "line".)";
 
-constexpr const char* bic_example = R"(Example:
+constexpr const char* bic_example = R"(Examples:
   tivex iban bic DE89370400440532013000
 
 prints
 
-  DE89370400440532013000: COBADEFFXXX)";
+  DE89370400440532013000: COBADEFFXXX
+
+  tivex iban bic --json --input customers.csv --column iban
+
+prints an object a line with "iban", "bic" and "fault".)";
 
 struct conversion_query {
   std::string bank_code;
-  std::vector<std::string> arguments;  // accounts, or one file
+  asked_items asked;  // accounts, or one file
   std::string output = "-";
-  std::string delimiter = ",";
 };
 
 int convert_accounts(const conversion_query& query) {
-  bool all_made = true;
-  const bool read = for_each_argument(query.arguments, [&](const std::string& account) {
-    const iban_conversion conversion = convert_account(query.bank_code, account);
-    const std::string bic = conversion.bic.empty() ? "" : conversion.bic + ' ';
-    const std::string text = conversion.made()
-                                 ? conversion.iban + ' ' + bic + '(' + conversion.status + ')'
-                                 : conversion.status;
-    all_made = all_made && conversion.made();
-    std::printf("%s: %s\n", printable(account).c_str(), text.c_str());
+  return answer_each(query.asked, [&](std::string_view account, std::string& line) {
+    const iban_conversion conversion = convert_account(query.bank_code, std::string(account));
+    if (query.asked.json) {
+      json_object object;
+      object["bank_code"] = json_text(query.bank_code);
+      object["account"] = json_text(account);
+      add_conversion(object, conversion);
+      line += object.dump();
+      return conversion.made();
+    }
+    append_subject(line, account);
+    if (!conversion.made()) {
+      line += conversion.status;
+      return false;
+    }
+    line.append(conversion.iban).append(1, ' ').append(conversion.bic);
+    if (!conversion.bic.empty()) line += ' ';
+    line.append(1, '(').append(conversion.status).append(1, ')');
+    return true;
   });
-  return flush_standard_output() && read && all_made ? exit_success : exit_failure;
 }
 
 int convert_file(const conversion_query& query) {
-  const std::string& name = query.arguments.front();
+  const std::string& name = query.asked.arguments.front();
   if (is_file_to_read(query.output, name)) {
     print_error("--output: " + query.output + " is the file to read");
     return exit_usage;
   }
+  const bool to_file = query.output != "-";
+  // A CSV file or the file to write comes whole or not at all.
+  const bool streams = query.asked.json && !to_file;
+  std::string text;
+  const auto take = [&](std::string_view row) {
+    if (streams) return add_to_standard_output(row);
+    text += row;
+    return true;
+  };
   input_file input(name);
-  const conversion_table table = convert_rows(input, delimiters.at(query.delimiter));
-  if (!table.error.empty()) {
-    print_error(table.error);
+  const conversion_totals totals =
+      convert_rows(input, delimiters.at(query.asked.delimiter),
+                   query.asked.json ? conversion_form::json : conversion_form::csv, take);
+  if (streams && !flush_standard_output()) return exit_failure;
+  if (!totals.error.empty()) {
+    print_error(totals.error);
     return exit_failure;
   }
-  const bool to_file = query.output != "-";
   // Made before: once the file is written nothing fails any more.
   const std::string summary =
-      printable_line(labelled_line("converted", std::to_string(table.converted))) +
-      printable_line(labelled_line("refused", std::to_string(table.refused)));
+      printable_line(labelled_line("converted", std::to_string(totals.converted))) +
+      printable_line(labelled_line("refused", std::to_string(totals.refused)));
   const std::string fault =
-      to_file ? replace_file(query.output, table.text) : write_standard_output(table.text);
+      to_file ? replace_file(query.output, text) : write_standard_output(text);
   if (!fault.empty()) {
     print_error((to_file ? query.output : "standard output") + ": " + fault);
     return exit_failure;
   }
   print_lines(summary);
-  return table.refused == 0 ? exit_success : exit_failure;
+  return totals.refused == 0 ? exit_success : exit_failure;
 }
 
-int print_bics(const std::vector<std::string>& ibans) {
-  bool all_found = true;
-  const bool read = for_each_argument(ibans, [&](const std::string& iban) {
+void check_file_options(const CLI::App& command, const conversion_query& query) {
+  for (const char* const option : {"--input", "--column"}) {
+    if (command.count(option) > 0) throw CLI::ValidationError(option, "is for --bank-code");
+  }
+  if (query.asked.arguments.empty()) throw CLI::RequiredError("ACCOUNT or FILE");
+  if (query.asked.arguments.size() > 1) {
+    throw CLI::ValidationError("FILE", "one file at a time, or --bank-code for accounts");
+  }
+}
+
+int print_bics(const asked_items& asked) {
+  return answer_each(asked, [&](std::string_view iban, std::string& line) {
     char bic[12] = "";
-    const int result = tivex_iban_getBIC(iban.c_str(), bic);
-    const char* const text = result == 0    ? "there is a directory for AT, CH, DE and LI only"
-                             : result == -1 ? "wrong length for the country"
-                             : result == -3 ? "bank code not in the directory"
-                             : *bic == '\0' ? "the bank has no BIC"
-                                            : bic;
-    all_found = all_found && *bic != '\0';
-    std::printf("%s: %s\n", printable(iban).c_str(), text);
+    const char* fault = nul_fault(iban);
+    if (fault == nullptr) {
+      const int result = tivex_iban_getBIC(iban.data(), bic);
+      fault = result == 0    ? "there is a directory for AT, CH, DE and LI only"
+              : result == -1 ? "wrong length for the country"
+              : result == -3 ? "bank code not in the directory"
+              : *bic == '\0' ? "the bank has no BIC"
+                             : nullptr;
+    }
+    if (asked.json) {
+      json_object object;
+      object["iban"] = json_text(iban);
+      object["bic"] = json_text_or_null(bic);
+      object["fault"] = json_text_or_null(fault == nullptr ? "" : fault);
+      line += object.dump();
+    } else {
+      append_subject(line, iban);
+      line += fault == nullptr ? bic : fault;
+    }
+    return fault == nullptr;
   });
-  return flush_standard_output() && read && all_found ? exit_success : exit_failure;
 }
 
 }  // namespace
@@ -115,26 +160,23 @@ void add_iban_convert(CLI::App& ibans, int& exit_status) {
       ->type_name("CODE")
       ->check(CLI::Validator(german_bank_code_fault, ""));
   command
-      ->add_option("-o,--output", query->output,
-                   "File to write instead of standard output, for a CSV file")
+      ->add_option("-o,--output", query->output, "File to write (default: - for standard output)")
       ->type_name("FILE");
-  command->add_option("--delimiter", query->delimiter, "What separates the cells: , ; or tab")
-      ->type_name("CHAR")
-      ->check(CLI::IsMember(delimiters).description(""))
-      ->capture_default_str();
   command
-      ->add_option("ACCOUNT or FILE", query->arguments,
-                   "With --bank-code account numbers, otherwise a CSV file; - for standard input")
-      ->type_name("")
-      ->required();
+      ->add_option("ACCOUNT or FILE", query->asked.arguments,
+                   "Account numbers with --bank-code, else a CSV file")
+      ->type_name("");
+  add_asking_options(*command, query->asked);
   command->footer(convert_example);
   command->callback([command, query, &exit_status] {
     const bool by_account = command->count("--bank-code") > 0;
     if (by_account && command->count("--output") > 0) {
       throw CLI::ValidationError("--output", "is for CSV files");
     }
-    if (!by_account && query->arguments.size() > 1) {
-      throw CLI::ValidationError("FILE", "one file at a time, or --bank-code for accounts");
+    if (by_account) {
+      check_asked(*command, query->asked, "ACCOUNT or --input");
+    } else {
+      check_file_options(*command, *query);
     }
     exit_status = by_account ? convert_accounts(*query) : convert_file(*query);
   });
@@ -142,12 +184,15 @@ void add_iban_convert(CLI::App& ibans, int& exit_status) {
 
 void add_iban_bic(CLI::App& ibans, int& exit_status) {
   CLI::App* const command = ibans.add_subcommand("bic", "Tell the BIC that belongs to an IBAN");
-  const auto arguments = std::make_shared<std::vector<std::string>>();
-  command->add_option("IBAN", *arguments, "IBANs of AT, CH, DE or LI; - for standard input")
-      ->type_name("")
-      ->required();
+  const auto asked = std::make_shared<asked_items>();
+  command->add_option("IBAN", asked->arguments, "IBANs of AT, CH, DE or LI; - for the input")
+      ->type_name("");
+  add_asking_options(*command, *asked);
   command->footer(bic_example);
-  command->callback([&exit_status, arguments] { exit_status = print_bics(*arguments); });
+  command->callback([&exit_status, command, asked] {
+    check_asked(*command, *asked, "IBAN or --input");
+    exit_status = print_bics(*asked);
+  });
 }
 
 }  // namespace tivex_program

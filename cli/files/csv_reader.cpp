@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "files/utf8.h"
 #include "platform/exhausted_memory.h"
 
 namespace tivex_program {
@@ -12,7 +13,6 @@ namespace {
 constexpr std::size_t buffer_size = std::size_t{1} << 16;
 // Far above any payment: a quote that is not closed must not swallow the file.
 constexpr std::size_t longest_row = std::size_t{1} << 16;
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 bool has_quotes(std::string_view text) { return text.find('"') != std::string_view::npos; }
 

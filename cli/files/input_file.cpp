@@ -1,6 +1,7 @@
 #include "files/input_file.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <utility>
 
@@ -17,6 +18,8 @@ input_file::input_file(std::string name) : name_(std::move(name)) {
 
 std::size_t input_file::read(char* buffer, std::size_t size) {
   if (!error_.empty()) return 0;
+  // Who waits for answers before asking more gets them now.
+  std::fflush(stdout);
   const std::ptrdiff_t count = file_.read(buffer, size);
   if (count < 0) {
     fail();

@@ -5,6 +5,8 @@
 
 namespace tivex_program {
 
+inline constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
 // Returns the number of bytes of the character that the text starts with, 0 when
 // those bytes are no UTF-8 (overlong forms, surrogates and values above U+10FFFF
 // are none) or the text is empty.

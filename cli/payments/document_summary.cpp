@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include "terminal/diagnostics.h"
-#include "terminal/json_line.h"
+#include "terminal/json_text.h"
 #include "terminal/labelled_line.h"
 
 namespace tivex_program {
@@ -63,18 +63,16 @@ std::string text_of(const document_summary& summary, const std::string& file) {
 }
 
 std::string json_of(const document_summary& summary, const std::string& file) {
-  std::string text;
-  json_line line(text);
-  line.add_number("transactions", summary.transactions);
-  line.add_text("sum", summary.sum);
-  line.add_text("currency", currency);
-  line.add_number("payment_blocks", summary.payment_blocks);
-  line.add_text("rulebook", summary.rulebook);
-  line.add_text("message", summary.message);
-  line.add_text_or_null("schema", summary.schema);
-  line.add_text_or_null("file", file);
-  line.end();
-  return text + '\n';
+  json_object object;
+  object["transactions"] = summary.transactions;
+  object["sum"] = summary.sum;
+  object["currency"] = currency;
+  object["payment_blocks"] = summary.payment_blocks;
+  object["rulebook"] = summary.rulebook;
+  object["message"] = summary.message;
+  object["schema"] = json_text_or_null(summary.schema);
+  object["file"] = json_text_or_null(file);
+  return object.dump() + '\n';
 }
 
 }  // namespace tivex_program

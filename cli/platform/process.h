@@ -21,6 +21,10 @@ std::string temporary_folder();
 void remove_file(const char* name);
 [[noreturn]] void end_at_once(std::string_view last_words, int exit_status);
 
+// Ends the program without a word, as the system does, when the write that has failed
+// just now failed because nobody reads the output any more.
+void end_when_reader_has_gone();
+
 // Overwrites memory, which the compiler may not leave out.
 void wipe(void* memory, std::size_t size);
 

@@ -3,8 +3,10 @@
 #include <windows.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 
+#include "platform/exit_status.h"
 #include "platform/process.h"
 #include "platform/windows_calls.h"
 
@@ -39,6 +41,12 @@ void end_at_once(std::string_view last_words, int exit_status) {
   [[maybe_unused]] const int written =
       ::_write(2, last_words.data(), static_cast<unsigned>(last_words.size()));
   ::_exit(exit_status);
+}
+
+void end_when_reader_has_gone() {
+  // The C library knows one of the two reasons only.
+  const bool closing = errno == EINVAL && _doserrno == ERROR_NO_DATA;
+  if (errno == EPIPE || closing) ::_exit(exit_failure);
 }
 
 void wipe(void* memory, std::size_t size) { ::SecureZeroMemory(memory, size); }

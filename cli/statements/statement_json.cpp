@@ -1,34 +1,32 @@
 #include "statements/statement_json.h"
 
 #include <cstdio>
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "statements/statement_fields.h"
+#include "terminal/json_text.h"
 
 namespace tivex_program {
 namespace {
-
-using nlohmann::ordered_json;
 
 // Makes a value of JSON of what a field holds.
 struct json_maker {
   text_encoding encoding;
 
-  ordered_json operator()(std::monostate) const { return nullptr; }
-  ordered_json operator()(bool flag) const { return flag; }
-  ordered_json operator()(std::int64_t number) const { return number; }
-  ordered_json operator()(const statement_date& date) const { return to_text(date); }
-  ordered_json operator()(std::string_view text) const { return to_utf8(text, encoding); }
+  json_object operator()(std::monostate) const { return nullptr; }
+  json_object operator()(bool flag) const { return flag; }
+  json_object operator()(std::int64_t number) const { return number; }
+  json_object operator()(const statement_date& date) const { return to_text(date); }
+  json_object operator()(std::string_view text) const { return to_utf8(text, encoding); }
   // The number nearest to the cents is written with two decimals at most.
-  ordered_json operator()(double amount) const {
+  json_object operator()(double amount) const {
     return static_cast<double>(cents_of(amount)) / 100;
   }
 };
 
 template <typename record>
-void add_fields(ordered_json& object, std::span<const record_field<record>> fields,
-                const record& of, text_encoding encoding) {
+void add_fields(json_object& object, std::span<const record_field<record>> fields, const record& of,
+                text_encoding encoding) {
   for (const record_field<record>& field : fields) {
     object[field.name] = std::visit(json_maker{encoding}, field.value(of));
   }
@@ -41,7 +39,7 @@ void write(const std::string& text) { std::fwrite(text.data(), 1, text.size(), s
 void begin_statement_json() { write("["); }
 
 void print_statement_json(const statement_view& view, bool first) {
-  ordered_json head;
+  json_object head;
   head["file"] = to_utf8(view.file, text_encoding::utf8);
   add_fields(head, statement_fields, view.statement, view.encoding);
   head["balanced"] = view.balance_fault.empty();
@@ -51,7 +49,7 @@ void print_statement_json(const statement_view& view, bool first) {
   write((first ? "\n" : ",\n") + text + ",\"entries\":[");
   bool first_entry = true;
   for_each_entry(view, [&](const tivex_stmt_tx_t& entry) {
-    ordered_json object;
+    json_object object;
     add_fields(object, entry_fields, entry, view.encoding);
     write((first_entry ? "\n  " : ",\n  ") + object.dump());
     first_entry = false;

@@ -1,7 +1,7 @@
 #include "terminal/fault_report.h"
 
 #include "terminal/diagnostics.h"
-#include "terminal/json_line.h"
+#include "terminal/json_text.h"
 
 namespace tivex_program {
 namespace {
@@ -14,18 +14,12 @@ std::string line_of_text(const std::string& file, const file_fault& fault) {
 }
 
 std::string line_of_json(const std::string& file, const file_fault& fault) {
-  std::string text;
-  json_line line(text);
-  line.add_text("file", file);
-  if (fault.line > 0) {
-    line.add_number("line", fault.line);
-  } else {
-    line.add_null("line");
-  }
-  line.add_text_or_null("key", fault.key);
-  line.add_text("fault", fault.text);
-  line.end();
-  return text + '\n';
+  json_object object;
+  object["file"] = json_text(file);
+  object["line"] = fault.line > 0 ? json_object(fault.line) : json_object();
+  object["key"] = json_text_or_null(fault.key);
+  object["fault"] = json_text(fault.text);
+  return object.dump() + '\n';
 }
 
 }  // namespace

@@ -5,19 +5,28 @@
 #include <cstring>
 
 #include "platform/descriptor.h"
+#include "platform/process.h"
 #include "terminal/diagnostics.h"
 
 namespace tivex_program {
 
+bool add_to_standard_output(std::string_view text) {
+  return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() &&
+         std::ferror(stdout) == 0;
+}
+
 bool flush_standard_output() {
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return true;
+  end_when_reader_has_gone();
   print_error(std::string("standard output: ") + std::strerror(errno));
   return false;
 }
 
 std::string write_standard_output(std::string_view text) {
   descriptor copy = descriptor::of_standard_output();
-  return copy && copy.write_all(text) && copy.close() ? "" : std::strerror(errno);
+  if (copy && copy.write_all(text) && copy.close()) return {};
+  end_when_reader_has_gone();
+  return std::strerror(errno);
 }
 
 }  // namespace tivex_program
