@@ -27,7 +27,8 @@
 #define TIVEX_H
 
 /* The version, stated here and nowhere else: the build reads it from these two
-   lines. TIVEX_VERSION_INT is major * 10000 + minor * 100 + patch. */
+   lines. TIVEX_VERSION_INT is major * 10000 + minor * 100 + patch. What is added to
+   this version says since which revision of it (2.28-1, 2.28-2, ...) it is there. */
 #define TIVEX_VERSION_INT 22800
 #define TIVEX_VERSION_STR "2.28"
 
@@ -61,7 +62,8 @@ extern TIVEX_API const char *tivex_version_str;
 /* The edition of the compiled bank directory: the date from which its latest
    German data holds, and the numbers of German, Austrian and Swiss (with
    Liechtenstein) bank codes and of BICs, such as
-   "2025-03-03 DE 3527 AT 871 CH 1171 BIC 4687". */
+   "2025-03-03 DE 3527 AT 871 CH 1171 BIC 4687". An addition, there since revision
+   2.28-1. */
 extern TIVEX_API const char *tivex_edition_str;
 
 /* --- Process-wide settings ------------------------------------------------ */
@@ -255,6 +257,8 @@ TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
  * its schema accepts (mode 1, the strict mode; see tivex_toXML).
  *
  * Errors: "Invalid strict mode (only 0 or 1 allowed)".
+ *
+ * An addition, there since revision 2.28-1.
  */
 TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
 
@@ -507,6 +511,8 @@ TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
  * 0 to 255, its two characters as hexadecimal digits. As with the lookups above
  * it is the method that holds now, zeros on the left may be left out, and -2 means
  * not in the directory (also for a null, empty or too long bank code).
+ *
+ * An addition, there since revision 2.28-1.
  */
 TIVEX_API int tivex_bankid_getMethod(const char *bank_code);
 

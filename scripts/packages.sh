@@ -40,3 +40,6 @@ windows_packages=(binutils-mingw-w64-i686 binutils-mingw-w64-x86-64 g++-mingw-w6
 # shellcheck disable=SC2034
 processor_packages=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-i686-linux-gnu
   g++-s390x-linux-gnu googletest qemu-user)
+# For making Debian packages and looking at them.
+# shellcheck disable=SC2034
+package_packages=(debootstrap dpkg-dev file git gzip lintian)

@@ -14,5 +14,8 @@ expect "tivex.pc" "$(sed -n 's/^Version: //p' "$2/tivex.pc")" "$version"
 expect "the library's file" "$(basename "$(readlink -f "$2/libtivex.so")")" "libtivex.so.$version"
 expect "the shared object name" \
   "$(readelf -d "$2/libtivex.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')" "libtivex.so.$major"
-expect "CHANGELOG.md" "$(sed -n '0,/^## /s/^## \([0-9.]*\).*/\1/p' "$1/CHANGELOG.md")" "$version"
+expect "CHANGELOG.md" \
+  "$(sed -n 's/^## \[\{0,1\}\([0-9.][0-9.]*\).*/\1/p' "$1/CHANGELOG.md" | head -n 1)" "$version"
+expect "packaging/debian/changelog" \
+  "$(sed -n '1s/^tivex (\(.*\)-[0-9]*) .*/\1/p' "$1/packaging/debian/changelog")" "$version"
 expect "README.md" "$(grep -c "tivex $version" "$1/README.md" | sed 's/[1-9][0-9]*/yes/')" yes
