@@ -1,10 +1,10 @@
-/*
- * tivex: payments in the Single Euro Payments Area.
+/**
+ * @mainpage tivex: payments in the Single Euro Payments Area
  *
  * The library writes pain.001 and pain.008 documents from key-value transactions
  * under ten national rulebooks, validates IBANs and BICs and finds the bank behind
- * them in a directory of its own. This header is its whole interface; it is valid
- * C89, C11 and C++.
+ * them in a directory of its own. The header tivex.h is its whole interface; it is
+ * valid C89, C11 and C++.
  *
  * What holds for every function
  *
@@ -26,12 +26,23 @@
 #ifndef TIVEX_H
 #define TIVEX_H
 
-/* The version, stated here and nowhere else: the build reads it from these two
-   lines. TIVEX_VERSION_INT is major * 10000 + minor * 100 + patch. What is added to
-   this version says since which revision of it (2.28-1, 2.28-2, ...) it is there. */
+/**
+ * @defgroup library Version, settings and memory
+ * What the library is, and what holds for the whole process.
+ *
+ * @include version.c
+ *
+ * @{
+ */
+
+/** The version: major * 10000 + minor * 100 + patch. It is stated here and nowhere
+    else, and so is its text: the build reads them from these lines. What is added to
+    this version says since which revision of it (2.28-1, 2.28-2, ...) it is there. */
 #define TIVEX_VERSION_INT 22800
+/** The version as text. */
 #define TIVEX_VERSION_STR "2.28"
 
+/** @cond */
 /* TIVEX_STATIC is defined where the library's code is linked into the program itself. */
 #if defined(TIVEX_STATIC)
 #define TIVEX_API
@@ -46,6 +57,7 @@
 #else
 #define TIVEX_API
 #endif
+/** @endcond */
 
 #include <time.h>
 
@@ -53,31 +65,31 @@
 extern "C" {
 #endif
 
-/* The version of the loaded library, to be compared with TIVEX_VERSION_INT and
-   TIVEX_VERSION_STR of the header that the host was compiled with. Both live
-   as long as the library is loaded. */
+/** The version of the loaded library, to be compared with TIVEX_VERSION_INT of the
+    header that the host was compiled with. */
 extern TIVEX_API const int tivex_version_int;
+
+/** The same as text, to be compared with TIVEX_VERSION_STR. It lives as long as the
+    library is loaded. */
 extern TIVEX_API const char *tivex_version_str;
 
-/* The edition of the compiled bank directory: the date from which its latest
+/** The edition of the compiled bank directory: the date from which its latest
    German data holds, and the numbers of German, Austrian and Swiss (with
    Liechtenstein) bank codes and of BICs, such as
    "2025-03-03 DE 3527 AT 871 CH 1171 BIC 4687". An addition, there since revision
    2.28-1. */
 extern TIVEX_API const char *tivex_edition_str;
 
-/* --- Process-wide settings ------------------------------------------------ */
-
-/* The option of tivex_init that selects the rulebook. */
+/** The option of tivex_init that selects the rulebook. */
 #define TIVEX_OPTION_RULEBOOK 3
 
-/*
+/**
  * Changes a process-wide setting.
  *
- * option: TIVEX_OPTION_RULEBOOK, the only one.
- * value:  the rulebook's name, compared byte for byte: "DE-2.6", "DE-2.7",
- *         "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7" (Germany),
- *         "AT-6" (Austria) or "NL-6" (Netherlands).
+ * @param option TIVEX_OPTION_RULEBOOK, the only one.
+ * @param value the rulebook's name, compared byte for byte: "DE-2.6", "DE-2.7",
+ *        "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7" (Germany), "AT-6"
+ *        (Austria) or "NL-6" (Netherlands).
  *
  * The rulebook decides which characters and address keys tivex_add admits and
  * in which schema version tivex_toXML writes. It is read when a check or a
@@ -90,53 +102,66 @@ extern TIVEX_API const char *tivex_edition_str;
  */
 TIVEX_API int tivex_init(int option, const char *value);
 
-/*
+/**
  * Meant for the end of the library's use. There is nothing to release any more, so
  * it does nothing and may be called at any time, by any thread.
  */
 TIVEX_API void tivex_cleanup(void);
 
-/* --- Messages ------------------------------------------------------------- */
+/** @} */
 
-/* A message: one account of the host's own, header values that its
+/**
+ * @defgroup messages Messages
+ * A message is made, given its header values and transactions, written as a document
+ * and released.
+ *
+ * @include message.c
+ *
+ * @{
+ */
+
+/** A message: one account of the host's own, header values that its
    transactions share, and the transactions. */
 typedef struct tivex_message tivex_t;
 
 /* The kinds of message, for tivex_new. */
-#define TIVEX_DIRECT_DEBIT 1
-#define TIVEX_CREDIT_TRANSFER 2
+#define TIVEX_DIRECT_DEBIT 1    /**< kind of message: pain.008 */
+#define TIVEX_CREDIT_TRANSFER 2 /**< kind of message: pain.001 */
 
 /* The local instruments of a direct debit, for tivex_setDDType. */
-#define TIVEX_DD_CORE 0
-#define TIVEX_DD_COR1 1
-#define TIVEX_DD_B2B 2
+#define TIVEX_DD_CORE 0 /**< local instrument: core scheme */
+#define TIVEX_DD_COR1 1 /**< local instrument: core scheme, one day */
+#define TIVEX_DD_B2B 2  /**< local instrument: between businesses */
 
-/* One property of a transaction, for tivex_add. */
+/**
+ * One property of a transaction, for tivex_add.
+ * @ingroup transactions
+ */
 typedef struct tivex_keyvalue {
-  const char *key;   /* the property's name; null ends the list */
-  const char *value; /* its value */
+  const char *key;   /**< the property's name; null ends the list */
+  const char *value; /**< its value */
 } tivex_keyvalue_t;
 
-/*
+/**
  * Creates an empty message with batch booking on and the CORE local instrument.
  * Selects the default rulebook when none is selected yet, even when it then
  * refuses the type.
  *
- * type: TIVEX_CREDIT_TRANSFER or TIVEX_DIRECT_DEBIT.
+ * @param type TIVEX_CREDIT_TRANSFER or TIVEX_DIRECT_DEBIT.
  *
  * Returns the message, which the host releases with tivex_free, or null for
  * another type or when memory is exhausted.
  */
 TIVEX_API tivex_t *tivex_new(int type);
 
-/*
+/**
  * Releases a message with its transactions, all overwritten with zeros before.
  * Null is ignored. The message and every error text read from it must not be
  * used afterwards.
  */
 TIVEX_API void tivex_free(tivex_t *msg);
 
-/*
+/**
  * Returns the reason of the most recent failure on the message, or null when
  * nothing has failed yet; for a null message "Invalid tivex_t handle (NULL)".
  *
@@ -147,7 +172,8 @@ TIVEX_API void tivex_free(tivex_t *msg);
  */
 TIVEX_API const char *tivex_getError(const tivex_t *msg);
 
-/*
+/**
+ * @defgroup header_values Header values
  * The setters below store one header value each. They may be called in any
  * order, any number of times, before or after tivex_add; the last value set
  * before tivex_toXML counts.
@@ -156,9 +182,13 @@ TIVEX_API const char *tivex_getError(const tivex_t *msg);
  * value held before stays, except that it is lost when the copy of the new one
  * could not be allocated ("strdup() failed" in the reason). For a null message
  * each returns 0 and does nothing.
+ *
+ * @include header_values.c
+ *
+ * @{
  */
 
-/*
+/**
  * Sets the IBAN of the message's own account: the debtor's of a credit
  * transfer, the creditor's of a direct debit. It is checked as tivex_iban_check
  * does and stored as given.
@@ -175,7 +205,7 @@ TIVEX_API const char *tivex_getError(const tivex_t *msg);
  */
 TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
 
-/*
+/**
  * Sets the BIC (ISO 9362) of the message's own bank, stored in upper case: six
  * letters, a letter or 2 to 9, a letter but O or a digit, and three letters or
  * digits or none, so 8 or 11 bytes.
@@ -185,7 +215,7 @@ TIVEX_API int tivex_setIBAN(tivex_t *msg, const char *iban);
  */
 TIVEX_API int tivex_setBIC(tivex_t *msg, const char *bic);
 
-/*
+/**
  * Sets the name of the account's holder: 1 to 70 bytes of the rulebook's
  * widest character set: letters, digits, blank, ' : ? , - ( ) + / . and,
  * except under "DE-2.6", & * $ % and the German letters with umlaut and sharp s;
@@ -197,7 +227,7 @@ TIVEX_API int tivex_setBIC(tivex_t *msg, const char *bic);
  */
 TIVEX_API int tivex_setName(tivex_t *msg, const char *name);
 
-/*
+/**
  * Sets the creditor identifier of a direct debit, 7 to 35 bytes, checked by
  * ISO 7064 MOD 97-10 as the European Payments Council prescribes for it (the
  * creditor business code, characters 5 to 7, takes no part and is not looked at),
@@ -209,7 +239,7 @@ TIVEX_API int tivex_setName(tivex_t *msg, const char *name);
  */
 TIVEX_API int tivex_setCreditorIdentifier(tivex_t *msg, const char *id);
 
-/*
+/**
  * Sets the date, "yyyy-mm-dd", on which transactions that bring none of their
  * own are executed or collected. Of its 10 bytes only the start is checked: a number
  * of up to four digits and two of up to two, with hyphens between them, each with
@@ -223,11 +253,11 @@ TIVEX_API int tivex_setCreditorIdentifier(tivex_t *msg, const char *id);
  */
 TIVEX_API int tivex_setDate(tivex_t *msg, const char *date);
 
-/*
+/**
  * Sets the local instrument of a direct debit message.
  *
- * code: TIVEX_DD_CORE, TIVEX_DD_COR1 (only under "DE-2.7", "DE-2.8", "DE-2.9",
- *       "AT-6" and "NL-6") or TIVEX_DD_B2B.
+ * @param code TIVEX_DD_CORE, TIVEX_DD_COR1 (only under "DE-2.7", "DE-2.8", "DE-2.9",
+ *        "AT-6" and "NL-6") or TIVEX_DD_B2B.
  *
  * Errors: "Not a direct debit message",
  * "Unknown/unsupported LocalInstrumentCode (setDDType)",
@@ -235,7 +265,7 @@ TIVEX_API int tivex_setDate(tivex_t *msg, const char *date);
  */
 TIVEX_API int tivex_setDDType(tivex_t *msg, int code);
 
-/*
+/**
  * Asks the bank to book each payment block as one batch (mode 1, the default)
  * or its transactions singly (mode 0).
  *
@@ -243,7 +273,7 @@ TIVEX_API int tivex_setDDType(tivex_t *msg, int code);
  */
 TIVEX_API int tivex_setBatchBooking(tivex_t *msg, unsigned char mode);
 
-/*
+/**
  * Sets the message identifier: 1 to 35 letters, digits, blanks and
  * ' ( ) + , - . / : ? under every rulebook. Without it tivex_toXML makes one.
  *
@@ -251,7 +281,7 @@ TIVEX_API int tivex_setBatchBooking(tivex_t *msg, unsigned char mode);
  */
 TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
 
-/*
+/**
  * Chooses how tivex_toXML writes the message: in the prescribed form, whatever
  * the schema says of its values (mode 0, the default), or only as a document that
  * its schema accepts (mode 1, the strict mode; see tivex_toXML).
@@ -262,46 +292,60 @@ TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
  */
 TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
 
-/*
+/** @} */
+/** @} */
+
+/**
+ * @defgroup transactions Transactions
+ * A transaction is a list of keys and values.
+ *
+ * @include transactions.c
+ *
+ * @{
+ */
+
+/**
  * Adds one transaction: to a credit transfer message a payment from the
  * message's own account to a creditor, to a direct debit message a collection
  * from a debtor's account to the message's own. The "other side" below is that
  * creditor or debtor.
  *
- * list: an array of properties that ends at the first null key. Keys compare
- *       whole and without case. A key may occur again; each value is checked
- *       and the last one counts. A credit transfer ignores unknown keys, a direct
- *       debit refuses them.
+ * @param list an array of properties that ends at the first null key. Keys compare
+ *        whole and without case. A key may occur again; each value is checked and the
+ *        last one counts. A credit transfer ignores unknown keys, a direct debit
+ *        refuses them.
  *
- *   key          value                                            length in bytes
- *   "iban"       the other side's IBAN, required                  15 to 31
- *   "amount"     euro, decimal point, rounded half up to cents,   -
- *                required; as a binary fraction, so that 1.005
- *                is 1.00 and cents are exact below 2^45 euro;
- *                white space may stand in front only
- *   "bic"        the other side's bank; required under "DE-2.6"   8 or 11
- *   "name"       the other side's name                            1 to 70
- *   "ref"        unstructured remittance information              0 to 140
- *   "date"       requested execution or collection date,          10
- *                "yyyy-mm-dd"
- *   "id"         end-to-end identification                        1 to 35
- *   "addrCC"     country, two capital letters                     2
- *   "addrLine1", "addrLine2"  address lines, not under "DE-3.7"   1 to 70
- *   under "DE-3.7" only (otherwise a direct debit refuses them):
- *   "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom"  1 to 70
- *   "addrBldg", "addrTown", "addrLoc", "addrDstrct", "addrCtrySub"    1 to 35
- *   "addrNum", "addrPoBox", "addrCode"                                1 to 16
- *   for a credit transfer:
- *   "purp"       purpose code (ISO 20022 external code set)       4
- *   for a direct debit:
- *   "seq"        sequence type, required: "FRST", "RCUR", "OOFF"  4
- *                or "FNAL", in either case
- *   "mref"       mandate reference                                1 to 35
- *   "mdate"      date of the mandate's signature, "yyyy-mm-dd"    10
- *   "old_mref"   former reference of an amended mandate           1 to 35
- *   "old_iban"   former IBAN of the debtor                        15 to 31
- *   "smnda"      "1": the debtor has a new account under the      1
- *                same mandate; "old_iban" is then not written
+ * The keys:
+ *
+ *     key          value                                            length in bytes
+ *     "iban"       the other side's IBAN, required                  15 to 31
+ *     "amount"     euro, decimal point, rounded half up to cents,   -
+ *                  required; as a binary fraction, so that 1.005
+ *                  is 1.00 and cents are exact below 2^45 euro;
+ *                  white space may stand in front only
+ *     "bic"        the other side's bank; required under "DE-2.6"   8 or 11
+ *     "name"       the other side's name                            1 to 70
+ *     "ref"        unstructured remittance information              0 to 140
+ *     "date"       requested execution or collection date,          10
+ *                  "yyyy-mm-dd"
+ *     "id"         end-to-end identification                        1 to 35
+ *     "addrCC"     country, two capital letters                     2
+ *     "addrLine1", "addrLine2"  address lines, not under "DE-3.7"   1 to 70
+ *     under "DE-3.7" only (otherwise a direct debit refuses them):
+ *     "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom"  1 to 70
+ *     "addrBldg", "addrTown", "addrLoc", "addrDstrct", "addrCtrySub"    1 to 35
+ *     "addrNum", "addrPoBox", "addrCode"                                1 to 16
+ *     for a credit transfer:
+ *     "purp"       purpose code (ISO 20022 external code set)       4
+ *     for a direct debit:
+ *     "seq"        sequence type, required: "FRST", "RCUR", "OOFF"  4
+ *                  or "FNAL", in either case
+ *     "mref"       mandate reference                                1 to 35
+ *     "mdate"      date of the mandate's signature, "yyyy-mm-dd"    10
+ *     "old_mref"   former reference of an amended mandate           1 to 35
+ *     "old_iban"   former IBAN of the debtor                        15 to 31
+ *     "smnda"      "1": the debtor has a new account under the      1
+ *                  same mandate; "old_iban" is then not written
  *
  * A debtor whose BIC names a SEPA country outside the European Economic Area
  * (such as CH or GB) needs an address line under "DE-3.1" and "DE-3.5", town and
@@ -356,17 +400,28 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  */
 TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
 
-/*
+/** @} */
+
+/**
+ * @defgroup documents Documents
+ * A message becomes a document in XML.
+ *
+ * @include document.c
+ *
+ * @{
+ */
+
+/**
  * Writes the message as an ISO 20022 document in UTF-8, a customer credit
  * transfer initiation or a customer direct debit initiation in the version that
  * the selected rulebook prescribes:
  *
- *   rulebook                       credit transfer   direct debit
- *   "DE-2.6"                       pain.001.002.03   pain.008.002.02
- *   "DE-2.7" to "DE-2.9"           pain.001.003.03   pain.008.003.02
- *   "DE-3.0" to "DE-3.5",          pain.001.001.03   pain.008.001.02
- *   "AT-6", "NL-6"
- *   "DE-3.7"                       pain.001.001.09   pain.008.001.08
+ *     rulebook                       credit transfer   direct debit
+ *     "DE-2.6"                       pain.001.002.03   pain.008.002.02
+ *     "DE-2.7" to "DE-2.9"           pain.001.003.03   pain.008.003.02
+ *     "DE-3.0" to "DE-3.5",          pain.001.001.03   pain.008.001.02
+ *     "AT-6", "NL-6"
+ *     "DE-3.7"                       pain.001.001.09   pain.008.001.08
  *
  * Transactions stand in payment blocks, one for each date in ascending order and,
  * of direct debits, for each sequence type in the order FRST, RCUR, OOFF, FNAL;
@@ -425,9 +480,18 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  */
 TIVEX_API char *tivex_toXML(tivex_t *msg);
 
-/* --- Validation ----------------------------------------------------------- */
+/** @} */
 
-/*
+/**
+ * @defgroup validation Validation
+ * IBANs are checked without a message.
+ *
+ * @include validation.c
+ *
+ * @{
+ */
+
+/**
  * Checks an IBAN (ISO 13616) of the 37 countries whose rules the library
  * holds: country, length (15 to 31 bytes), national format and check digits; of
  * German IBANs also that the bank code is in the compiled directory and that the
@@ -439,49 +503,54 @@ TIVEX_API char *tivex_toXML(tivex_t *msg);
  */
 TIVEX_API int tivex_iban_check(const char *iban);
 
-/* --- Banks ---------------------------------------------------------------- */
+/** @} */
 
-/*
+/**
+ * @defgroup directory Bank directory
+ * The lookups read a directory that is compiled into the library, and the
+ * clock: a German bank code may change on a date that the directory knows, and
+ * from 00:00 German time of that date the changed data is returned without the
+ * library being loaded anew.
+ *
+ * Their argument info says where to store the address of a new block when the bank
+ * is found; it is null when the host only wants to know whether the bank exists. On
+ * any other result what it points to is left as it was.
+ *
+ * Results: 1 found, 0 no directory for this country, -1 invalid IBAN, -2 not in
+ * the directory, -3 memory exhausted.
+ *
+ * @include directory.c
+ *
+ * @{
+ */
+
+/**
  * The bank behind a code. The block and its texts are one allocation of the C
  * run-time's malloc(): the host releases it with one call of free().
  */
 typedef struct tivex_bank_info {
-  char *name;           /* of the institution */
-  char *postcode;       /* null after tivex_bic_getBank, otherwise may be empty */
-  char *city;           /* null after tivex_bic_getBank, otherwise may be empty */
-  char *country;        /* ISO 3166 code of the address, empty for Switzerland; after
+  char *name;           /**< of the institution */
+  char *postcode;       /**< null after tivex_bic_getBank, otherwise may be empty */
+  char *city;           /**< null after tivex_bic_getBank, otherwise may be empty */
+  char *country;        /**< ISO 3166 code of the address, empty for Switzerland; after
                            tivex_bic_getBank that of the BIC */
-  char *bic;            /* 11 characters, or empty for a bank without one */
-  unsigned short flags; /* after tivex_bic_getBank TIVEX_SCHEME_..., otherwise 0 */
+  char *bic;            /**< 11 characters, or empty for a bank without one */
+  unsigned short flags; /**< after tivex_bic_getBank TIVEX_SCHEME_..., otherwise 0 */
 } tivex_bank_info_t;
 
 /* Payment schemes by which a BIC is reachable, as the Deutsche Bundesbank's
    register of reachable payment service providers states them. Other bits may
    be set in later editions. */
-#define TIVEX_SCHEME_CREDIT_TRANSFER 0x01
-#define TIVEX_SCHEME_DEBIT_CORE 0x02
-#define TIVEX_SCHEME_DEBIT_B2B 0x08
+#define TIVEX_SCHEME_CREDIT_TRANSFER 0x01 /**< SEPA credit transfer */
+#define TIVEX_SCHEME_DEBIT_CORE 0x02      /**< SEPA direct debit, core */
+#define TIVEX_SCHEME_DEBIT_B2B 0x08       /**< SEPA direct debit between businesses */
 
-/*
- * The lookups below read a directory that is compiled into the library, and the
- * clock: a German bank code may change on a date that the directory knows, and
- * from 00:00 German time of that date the changed data is returned without the
- * library being loaded anew.
- *
- * info: where to store the address of a new block when the bank is found; null
- *       when the host only wants to know whether it exists. On any other result
- *       it is left as it was.
- *
- * Results: 1 found, 0 no directory for this country, -1 invalid IBAN, -2 not in
- * the directory, -3 memory exhausted.
- */
-
-/*
+/**
  * Finds a bank by its national bank code.
  *
- * country:   "AT", "CH", "DE" or "LI", in capital letters.
- * bank_code: at most 5 bytes, for "DE" 8; zeros on the left may be left out.
- *            "LI" and "CH" share their bank codes.
+ * @param country "AT", "CH", "DE" or "LI", in capital letters.
+ * @param bank_code at most 5 bytes, for "DE" 8; zeros on the left may be left out. "LI"
+ *        and "CH" share their bank codes.
  *
  * Returns 1, 0 (another or null country), -2 (also for a null, empty or too long
  * bank code) or -3.
@@ -489,7 +558,7 @@ typedef struct tivex_bank_info {
 TIVEX_API int tivex_bankid_check(const char *country, const char *bank_code,
                                  tivex_bank_info_t **info);
 
-/*
+/**
  * Finds the bank that an IBAN of AT, CH, DE or LI names. The IBAN is checked as
  * tivex_iban_check does.
  *
@@ -497,7 +566,7 @@ TIVEX_API int tivex_bankid_check(const char *country, const char *bank_code,
  */
 TIVEX_API int tivex_iban_getBank(const char *iban, tivex_bank_info_t **info);
 
-/*
+/**
  * Finds a payment service provider by its BIC (ISO 9362): 8 or 11 letters and
  * digits in either case; 8 stand for the same with "XXX" behind them. postcode
  * and city of the block are null.
@@ -506,7 +575,7 @@ TIVEX_API int tivex_iban_getBank(const char *iban, tivex_bank_info_t **info);
  */
 TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
 
-/*
+/**
  * Returns the check-digit method of a German bank code, for tivex_account_check2:
  * 0 to 255, its two characters as hexadecimal digits. As with the lookups above
  * it is the method that holds now, zeros on the left may be left out, and -2 means
@@ -516,24 +585,33 @@ TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
  */
 TIVEX_API int tivex_bankid_getMethod(const char *bank_code);
 
-/* --- German account numbers ----------------------------------------------- */
+/** @} */
+
+/**
+ * @defgroup accounts German account numbers
+ * Account numbers are checked by the methods of their banks.
+ *
+ * @include accounts.c
+ *
+ * @{
+ */
 
 /* Results of the account checks. */
-#define TIVEX_ACCOUNT_INVALID (-1)
-#define TIVEX_ACCOUNT_NOT_CHECKED 0
-#define TIVEX_ACCOUNT_VALID 1
-#define TIVEX_ACCOUNT_VALID_BY_VARIANT 2 /* second variant of method 76 */
+#define TIVEX_ACCOUNT_INVALID (-1)       /**< fails the check */
+#define TIVEX_ACCOUNT_NOT_CHECKED 0      /**< there is no check for it */
+#define TIVEX_ACCOUNT_VALID 1            /**< passes the check */
+#define TIVEX_ACCOUNT_VALID_BY_VARIANT 2 /**< second variant of method 76 */
 
-/*
+/**
  * Checks a German account number by a check-digit method of the Deutsche
  * Bundesbank's list ("Pruefzifferberechnungsmethoden zur Pruefung von
  * Kontonummern auf ihre Richtigkeit").
  *
- * account: 1 to 10 bytes; zeros on the left may be left out. Characters other
- *          than digits are not refused as such, they fail or pass by the method's
- *          arithmetic.
- * method:  the method's two characters as hexadecimal digits: 0x00 for "00",
- *          0xB6 for "B6". Only the low 8 bits count.
+ * @param account 1 to 10 bytes; zeros on the left may be left out. Characters other
+ *        than digits are not refused as such, they fail or pass by the method's
+ *        arithmetic.
+ * @param method the method's two characters as hexadecimal digits: 0x00 for "00", 0xB6
+ *        for "B6". Only the low 8 bits count.
  *
  * Returns TIVEX_ACCOUNT_VALID, TIVEX_ACCOUNT_VALID_BY_VARIANT (valid as well),
  * TIVEX_ACCOUNT_NOT_CHECKED (there is no such method, method 09, an account that
@@ -543,42 +621,51 @@ TIVEX_API int tivex_bankid_getMethod(const char *bank_code);
  */
 TIVEX_API int tivex_account_check(const char *account, int method);
 
-/*
+/**
  * Does the same with the bank code, which methods 52, 53, B6 and C0 need and the
  * others ignore.
  *
- * bank_code: 8 bytes; any other length and null give TIVEX_ACCOUNT_INVALID,
- *            whatever the method.
+ * @param bank_code 8 bytes; any other length and null give TIVEX_ACCOUNT_INVALID,
+ *        whatever the method.
  */
 TIVEX_API int tivex_account_check2(const char *account, const char *bank_code, int method);
 
-/* --- German IBANs from account number and bank code ------------------------ */
+/** @} */
+
+/**
+ * @defgroup conversion IBANs from German account numbers
+ * Account number and bank code become an IBAN, and an IBAN leads to its BIC.
+ *
+ * @include conversion.c
+ *
+ * @{
+ */
 
 /* What tivex_iban_convert reports besides its result. */
-/* The IBAN was made from what was given. Without an IBAN, the status of arguments that
+/** The IBAN was made from what was given. Without an IBAN, the status of arguments that
    are refused, of another country and of banks that state no IBAN without saying why. */
 #define TIVEX_CONVERSION_AS_GIVEN 0
-#define TIVEX_CONVERSION_ACCOUNT_REPLACED 1   /* made with another account number */
-#define TIVEX_CONVERSION_BANK_UNKNOWN 10      /* bank code or successor not in the directory */
-#define TIVEX_CONVERSION_ACCOUNT_INVALID 11   /* by the bank's check-digit method */
-#define TIVEX_CONVERSION_BANK_REFUSES 12      /* the bank does not allow a conversion */
-#define TIVEX_CONVERSION_SUCCESSOR_USED 13    /* the bank code has a successor */
-#define TIVEX_CONVERSION_BANK_CODE_REPLACED 15 /* made with another bank code */
-#define TIVEX_CONVERSION_ACCOUNT_REFUSED 50   /* no IBAN for this account number */
+#define TIVEX_CONVERSION_ACCOUNT_REPLACED 1   /**< made with another account number */
+#define TIVEX_CONVERSION_BANK_UNKNOWN 10      /**< bank code or successor not in the directory */
+#define TIVEX_CONVERSION_ACCOUNT_INVALID 11   /**< by the bank's check-digit method */
+#define TIVEX_CONVERSION_BANK_REFUSES 12      /**< the bank does not allow a conversion */
+#define TIVEX_CONVERSION_SUCCESSOR_USED 13    /**< the bank code has a successor */
+#define TIVEX_CONVERSION_BANK_CODE_REPLACED 15 /**< made with another bank code */
+#define TIVEX_CONVERSION_ACCOUNT_REFUSED 50   /**< no IBAN for this account number */
 
-/*
+/**
  * Makes the IBAN of a German account number and bank code by the IBAN rule of the
  * bank (Deutsche Bundesbank, "IBAN-Regeln"): most state the standard IBAN, some
  * another bank code or account number, some none. A bank code that has a
  * successor is converted with the successor's.
  *
- * country:   "DE".
- * account:   1 to 10 bytes; zeros on the left may be left out.
- * bank_code: 8 bytes.
- * iban:      35 bytes that receive the IBAN of 22 characters and NULs, or null.
- *            Without an IBAN its first byte is NUL.
- * status:    receives a TIVEX_CONVERSION_... value, also when no IBAN is made; or
- *            null.
+ * @param country "DE".
+ * @param account 1 to 10 bytes; zeros on the left may be left out.
+ * @param bank_code 8 bytes.
+ * @param iban 35 bytes that receive the IBAN of 22 characters and NULs, or null.
+ *        Without an IBAN its first byte is NUL.
+ * @param status receives a TIVEX_CONVERSION_... value, also when no IBAN is made; or
+ *        null.
  *
  * Returns 1: the IBAN was made; 0: another country (or a bank with an unknown
  * rule); -1: a null country, account or bank code, one of wrong length, an account
@@ -588,92 +675,101 @@ TIVEX_API int tivex_account_check2(const char *account, const char *bank_code, i
 TIVEX_API int tivex_iban_convert(const char *country, const char *account,
                                  const char *bank_code, char *iban, unsigned char *status);
 
-/*
+/**
  * Finds the BIC that belongs to an IBAN of AT, CH, LI or DE, for German banks with
  * what their IBAN rules say about it. Only the country, the length and the bank
  * code of the IBAN are looked at.
  *
- * bic: 12 bytes that receive the BIC of 11 characters and a NUL; 12 NULs when there
- *      is none.
+ * @param bic 12 bytes that receive the BIC of 11 characters and a NUL; 12 NULs when
+ *        there is none.
  *
  * Returns 1 (the BIC is empty when the bank has none), 0 (null or another country),
  * -1 (wrong length for the country) or -3 (bank code not in the directory).
  */
 TIVEX_API int tivex_iban_getBIC(const char *iban, char *bic);
 
-/* --- Bank statements -------------------------------------------------------- */
+/** @} */
 
-/* Reads one statement file. The host creates a parser for every file. */
+/**
+ * @defgroup statements Bank statements
+ * A parser reads a file and holds its statements.
+ *
+ * @include statements.c
+ *
+ * @{
+ */
+
+/** Reads one statement file. The host creates a parser for every file. */
 typedef struct tivex_stmt_parser tivex_stmt_parser_t;
 
-/* The format of a file: SWIFT MT940, customer statement message. */
+/** The format of a file: SWIFT MT940, customer statement message. */
 #define TIVEX_FORMAT_MT940 1
 
-/*
+/**
  * One entry of a statement: a tag 61 and the tag 86 that follows it. Texts are as
  * the file has them, in the bank's encoding; they and the record belong to the
  * parser. What the file does not hold is null, 0 or empty. Of dates only tm_mday,
  * tm_mon and tm_year are set.
  */
 typedef struct tivex_stmt_tx {
-  struct tm value_date;
-  struct tm booking_date;  /* entry date; all members 0 without one */
-  unsigned char reversal;  /* 1 for a reversal (mark RC or RD), which takes the amount back */
-  double amount;           /* negative for the mark D, also in RD */
-  char type_code[4];       /* transaction type identification behind its N, such as TRF */
-  char *customer_ref;      /* reference for the account owner */
-  char *bank_ref;          /* reference of the bank, behind the slashes */
-  char *booking_text;      /* subfield 00 of tag 86 */
-  char *primanota;         /* subfield 10 */
-  int gvc;                 /* business transaction code, three digits */
-  int text_key_ext;        /* subfield 34, three digits */
-  char bank_code[13];      /* of the other side: bank code or BIC, up to 12 bytes */
-  char account_no[35];     /* of the other side: account number or IBAN, up to 34 bytes */
-  char name[56];           /* of the other side, up to 55 bytes */
-  char *purpose;           /* purpose without a keyword; line feeds between its lines */
-  char *eref;              /* EREF+ end-to-end reference */
-  char *kref;              /* KREF+ customer reference */
-  char *mref;              /* MREF+ mandate reference */
-  char *cred;              /* CRED+ creditor identifier */
-  char *debt;              /* DEBT+ debtor identifier */
-  char *purp;              /* PURP+ purpose code */
-  char *coam;              /* COAM+ compensation amount, decimal point */
-  char *oamt;              /* OAMT+ initial amount, decimal point */
-  char *svwz;              /* SVWZ+ remittance information */
-  char *abwa;              /* ABWA+ deviating debtor */
-  char *abwe;              /* ABWE+ deviating creditor */
-  struct tivex_stmt_tx *next; /* null after the statement's last entry */
+  struct tm value_date;    /**< value date */
+  struct tm booking_date;  /**< entry date; all members 0 without one */
+  unsigned char reversal;  /**< 1 for a reversal (mark RC or RD), which takes the amount back */
+  double amount;           /**< negative for the mark D, also in RD */
+  char type_code[4];       /**< transaction type identification behind its N, such as TRF */
+  char *customer_ref;      /**< reference for the account owner */
+  char *bank_ref;          /**< reference of the bank, behind the slashes */
+  char *booking_text;      /**< subfield 00 of tag 86 */
+  char *primanota;         /**< subfield 10 */
+  int gvc;                 /**< business transaction code, three digits */
+  int text_key_ext;        /**< subfield 34, three digits */
+  char bank_code[13];      /**< of the other side: bank code or BIC, up to 12 bytes */
+  char account_no[35];     /**< of the other side: account number or IBAN, up to 34 bytes */
+  char name[56];           /**< of the other side, up to 55 bytes */
+  char *purpose;           /**< purpose without a keyword; line feeds between its lines */
+  char *eref;              /**< EREF+ end-to-end reference */
+  char *kref;              /**< KREF+ customer reference */
+  char *mref;              /**< MREF+ mandate reference */
+  char *cred;              /**< CRED+ creditor identifier */
+  char *debt;              /**< DEBT+ debtor identifier */
+  char *purp;              /**< PURP+ purpose code */
+  char *coam;              /**< COAM+ compensation amount, decimal point */
+  char *oamt;              /**< OAMT+ initial amount, decimal point */
+  char *svwz;              /**< SVWZ+ remittance information */
+  char *abwa;              /**< ABWA+ deviating debtor */
+  char *abwe;              /**< ABWE+ deviating creditor */
+  struct tivex_stmt_tx *next; /**< null after the statement's last entry */
 } tivex_stmt_tx_t;
 
-/* One statement, with what was said of texts and dates above. */
+/** One statement, with what was said of texts and dates above. */
 typedef struct tivex_stmt {
-  char *reference;           /* tag 20 */
-  char *account;             /* tag 25; null when absent */
-  unsigned int statement_no; /* tag 28C */
-  unsigned int sequence_no;  /* tag 28C behind the slash; 0 when absent */
-  struct tm opening_date;    /* tag 60F or 60M */
-  struct tm closing_date;    /* tag 62F or 62M */
-  double opening_balance;    /* negative for a debit balance */
-  double closing_balance;    /* negative for a debit balance */
-  char opening_currency[4];  /* ISO 4217 */
-  char closing_currency[4];
-  tivex_stmt_tx_t *first_tx; /* entries in the order of the file */
-  tivex_stmt_tx_t *last_tx;
-  struct tivex_stmt *next;   /* null after the last statement */
+  char *reference;           /**< tag 20 */
+  char *account;             /**< tag 25; null when absent */
+  unsigned int statement_no; /**< tag 28C */
+  unsigned int sequence_no;  /**< tag 28C behind the slash; 0 when absent */
+  struct tm opening_date;    /**< tag 60F or 60M */
+  struct tm closing_date;    /**< tag 62F or 62M */
+  double opening_balance;    /**< negative for a debit balance */
+  double closing_balance;    /**< negative for a debit balance */
+  char opening_currency[4];  /**< ISO 4217 */
+  char closing_currency[4];  /**< ISO 4217 */
+  tivex_stmt_tx_t *first_tx; /**< entries in the order of the file */
+  tivex_stmt_tx_t *last_tx;  /**< null when there is none */
+  struct tivex_stmt *next;   /**< null after the last statement */
 } tivex_stmt_t;
 
-/* Returns a new parser, which the host releases with tivex_stmt_parser_free, or
+/** Returns a new parser, which the host releases with tivex_stmt_parser_free, or
    null when memory is exhausted. */
 TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
 
-/*
+/**
  * Reads a file, once in the life of a parser.
  *
- * format: TIVEX_FORMAT_MT940.
- * path:   the file, in the encoding of the system. Lines end with CR LF; a
- *         statement begins with CR LF and ":20:". Opening does not wait for a pipe's
- *         writer, but while another process gives up a lease on the file, for which
- *         the system bounds the time.
+ * @param format TIVEX_FORMAT_MT940.
+ * @param path the file, in the encoding of the system. Lines end with CR LF; a
+ *        statement begins with CR LF and ":20:". Opening does not wait for a pipe's
+ *        writer, but while another process gives up a lease on the file, for which the
+ *        system bounds the time.
  *
  * What does not fit the format ends a statement and is no error; a file without any
  * statement is read successfully.
@@ -689,17 +785,19 @@ TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
  */
 TIVEX_API int tivex_stmt_parser_load(tivex_stmt_parser_t *parser, int format, const char *path);
 
-/* Returns the first statement; null when there is none and for a null parser. The
+/** Returns the first statement; null when there is none and for a null parser. The
    records and all they point to belong to the parser. */
 TIVEX_API tivex_stmt_t *tivex_stmt_parser_getStatement(tivex_stmt_parser_t *parser);
 
-/* Returns the reason of the failure, at most 255 bytes, empty before one; for a null
+/** Returns the reason of the failure, at most 255 bytes, empty before one; for a null
    parser "invalid tivex_stmt_parser_t handle". The text belongs to the parser. */
 TIVEX_API const char *tivex_stmt_parser_getError(const tivex_stmt_parser_t *parser);
 
-/* Releases the parser with its statements and texts, all overwritten with zeros
+/** Releases the parser with its statements and texts, all overwritten with zeros
    before. Null is ignored. */
 TIVEX_API void tivex_stmt_parser_free(tivex_stmt_parser_t *parser);
+
+/** @} */
 
 #ifdef __cplusplus
 }

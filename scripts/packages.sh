@@ -43,3 +43,5 @@ processor_packages=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-i686-linux
 # For making Debian packages and looking at them.
 # shellcheck disable=SC2034
 package_packages=(debootstrap dpkg-dev file git gzip lintian)
+# shellcheck disable=SC2034
+reference_packages=(doxygen fish groff zsh)

@@ -55,9 +55,16 @@ class Import : public testing::Test {
   }
 
   import_request everything() const {
-    return {folder_,           file("german.txt"),   "2024-12-09",         file("german_later.csv"),
-            "2025-03-03",      file("register.csv"), file("austrian.csv"), "2025-01",
-            file("swiss.json")};
+    return {folder_,
+            file("german.txt"),
+            "2024-12-09",
+            file("german_later.csv"),
+            "2025-03-03",
+            file("register.csv"),
+            file("austrian.csv"),
+            "2025-01",
+            file("swiss.json"),
+            true};
   }
 
   void expect_edition(const char* expected) const {
@@ -90,14 +97,18 @@ class Import : public testing::Test {
 }  // namespace
 
 TEST_F(Import, TakesEveryFormatAndAgainTheSame) {
-  for (const char* const time : {"first", "second"}) {
+  const char* const reports[] = {
+      "german_banks.tsv: 8 rows, 4 came, 1 went, 4 changed, 2 skipped: branch rows\n"
+      "austrian_banks.tsv: 3 rows, 3 came, 1 went, 0 changed, 1 skipped: not of head offices\n"
+      "swiss_banks.tsv: 3 rows, 3 came, 1 went, 0 changed, 1 skipped: entries of other types\n"
+      "bics.tsv: 3 rows, 3 came, 1 went, 0 changed, none skipped\n",
+      "german_banks.tsv: 8 rows, 0 came, 0 went, 0 changed, 2 skipped: branch rows\n"
+      "austrian_banks.tsv: 3 rows, 0 came, 0 went, 0 changed, 1 skipped: not of head offices\n"
+      "swiss_banks.tsv: 3 rows, 0 came, 0 went, 0 changed, 1 skipped: entries of other types\n"
+      "bics.tsv: 3 rows, 0 came, 0 went, 0 changed, none skipped\n"};
+  for (const char* const report : reports) {
     fault_list faults;
-    EXPECT_EQ(import_tables(everything(), faults),
-              "german_banks.tsv: 8 rows, 2 skipped: branch rows\n"
-              "austrian_banks.tsv: 3 rows, 1 skipped: not of head offices\n"
-              "swiss_banks.tsv: 3 rows, 1 skipped: entries of other types\n"
-              "bics.tsv: 3 rows, none skipped\n")
-        << time;
+    EXPECT_EQ(import_tables(everything(), faults), report);
     EXPECT_EQ(faults.all(), texts());
     expect_edition("after");
   }
@@ -124,15 +135,42 @@ TEST_F(Import, RefusesFaultyFilesAndWritesNothing) {
 }
 
 TEST_F(Import, KeepsTheRuleOfTheLastVersion) {
-  EXPECT_EQ(run("--german {}/german.txt --german-valid-from 2025-04-01"), "0");
+  EXPECT_EQ(run("--shrink --german {}/german.txt --german-valid-from 2025-04-01"), "0");
   const std::string german = content_of(folder_ / german_file_name);
   EXPECT_NE(german.find("30000003\t\t1\t28\t200\t"), german.npos) << german;
+}
+
+TEST_F(Import, RefusesARegisterThatWasCut) {
+  const fs::path bics = folder_ / bics_file_name;
+  fs::copy(fs::path(TIVEX_EDITION) / bics_file_name, bics, fs::copy_options::overwrite_existing);
+  const std::string whole = content_of(bics);
+  const texts rows = split(whole.substr(whole.find("\nbic\t") + 1), "\n");
+  const auto import_first = [&](std::size_t count, const char* faults) {
+    std::string list =
+        "25.05.2026\nBIC;Name;SERVICE SCT;SERVICE COR;SERVICE COR1;SERVICE B2B;SERVICE SCC\n";
+    for (std::size_t i = 1; i <= count; ++i) {
+      list += rows[i].substr(0, rows[i].find('\t')) + ";Bank;1;1;0;0;0\n";
+    }
+    change("register.csv", "", list);
+    import_request request;
+    request.folder = folder_;
+    request.providers = file("register.csv");
+    fault_list found;
+    import_tables(request, found);
+    EXPECT_EQ(found.all(), *faults == '\0' ? texts() : texts{faults});
+  };
+  import_first(4000,
+               "bics.tsv: 687 of 4687 rows would go, more than 2 in 100; --shrink lets them go");
+  import_first(4593,
+               "bics.tsv: 94 of 4687 rows would go, more than 2 in 100; --shrink lets them go");
+  EXPECT_EQ(content_of(bics), whole);
+  import_first(4594, "");
 }
 
 TEST_F(Import, LeavesTheDateOfAMasterThatStatesNone) {
   change("swiss.json", "{\"validOn\": \"2025-03-17T03:00:00\", \"entries\": ", "");
   change("swiss.json", "]}", "]");
-  EXPECT_EQ(run("--swiss {}/swiss.json"), "0");
+  EXPECT_EQ(run("--shrink --swiss {}/swiss.json"), "0");
   const std::string swiss = content_of(folder_ / swiss_file_name);
   EXPECT_NE(swiss.find("# valid from: 2023\n# rows: 3\n"), swiss.npos) << swiss;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "field_forms.h"
 #include "text_table.h"
@@ -9,8 +10,6 @@
 namespace tivex_edition {
 
 namespace {
-
-using text_fields = std::vector<std::string>;
 
 constexpr const char* text_wanted = "text without control characters, '|' and blanks at its ends";
 constexpr const char* bic_wanted = "a BIC of 11 characters";
@@ -57,7 +56,7 @@ number to_number(const std::string& text, int base = 10) {
   return value;
 }
 
-german_row german_from(const text_fields& fields) {
+german_row german_from(const row_fields& fields) {
   german_row row;
   row.bank_code = fields[0];
   row.valid_from = fields[1];
@@ -73,7 +72,7 @@ german_row german_from(const text_fields& fields) {
   return row;
 }
 
-text_fields fields_of(const german_row& row) {
+row_fields fields_of(const german_row& row) {
   return {row.bank_code,
           row.valid_from,
           row.deleted ? "1" : "0",
@@ -87,19 +86,19 @@ text_fields fields_of(const german_row& row) {
           row.country};
 }
 
-bank_row bank_from(const text_fields& fields) {
+bank_row bank_from(const row_fields& fields) {
   return {0, fields[0], fields[1], fields[2], fields[3], fields[4], fields[5]};
 }
 
-text_fields fields_of(const bank_row& row) {
+row_fields fields_of(const bank_row& row) {
   return {row.bank_code, row.bic, row.name, row.postcode, row.city, row.country};
 }
 
-bic_row bic_from(const text_fields& fields) {
+bic_row bic_from(const row_fields& fields) {
   return {0, fields[0], to_number<std::uint8_t>(fields[1].substr(2), 16), fields[2]};
 }
 
-text_fields fields_of(const bic_row& row) {
+row_fields fields_of(const bic_row& row) {
   constexpr const char* digits = "0123456789ABCDEF";
   return {row.bic, std::string("0x") + digits[row.flags >> 4] + digits[row.flags & 15], row.name};
 }
@@ -107,7 +106,7 @@ text_fields fields_of(const bic_row& row) {
 template <typename row_type>
 edition_table<row_type> read_rows(const std::filesystem::path& path,
                                   std::span<const column_form> columns,
-                                  row_type (*from)(const text_fields&), fault_list& faults) {
+                                  row_type (*from)(const row_fields&), fault_list& faults) {
   const text_table text = read_text_table(path, columns, faults);
   edition_table<row_type> table = {text.title, text.source, text.valid_from, {}};
   for (const text_row& row : text.rows) {
@@ -118,17 +117,27 @@ edition_table<row_type> read_rows(const std::filesystem::path& path,
 }
 
 template <typename row_type>
+std::vector<row_fields> sorted(const std::vector<row_type>& rows) {
+  std::vector<row_fields> fields;
+  fields.reserve(rows.size());
+  for (const row_type& row : rows) fields.push_back(fields_of(row));
+  std::sort(fields.begin(), fields.end());
+  return fields;
+}
+
+template <typename row_type>
 void write_rows(const std::filesystem::path& path, std::span<const column_form> columns,
                 const edition_table<row_type>& table, fault_list& faults) {
   text_table text = {table.title, table.source, table.valid_from, {}};
-  for (const row_type& row : table.rows) text.rows.push_back({0, fields_of(row)});
-  std::stable_sort(
-      text.rows.begin(), text.rows.end(),
-      [](const text_row& left, const text_row& right) { return left.fields < right.fields; });
+  for (row_fields& fields : sorted(table.rows)) text.rows.push_back({0, std::move(fields)});
   write_text_table(path, columns, text, faults);
 }
 
 }  // namespace
+
+std::vector<row_fields> sorted_fields(const std::vector<german_row>& rows) { return sorted(rows); }
+std::vector<row_fields> sorted_fields(const std::vector<bank_row>& rows) { return sorted(rows); }
+std::vector<row_fields> sorted_fields(const std::vector<bic_row>& rows) { return sorted(rows); }
 
 edition read_edition(const std::filesystem::path& folder, fault_list& faults) {
   return {read_rows(folder / german_file_name, german_columns, german_from, faults),

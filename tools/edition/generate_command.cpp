@@ -16,6 +16,13 @@ namespace tivex_edition {
 
 namespace {
 
+constexpr const char* example =
+    R"(The facts are checked first, and every fault is named with its file and line.
+The same facts give the same bytes on every machine.
+
+Example:
+  tivex-edition generate --facts data --source src)";
+
 struct generate_options {
   std::string facts = "data";
   std::string source = "src";
@@ -47,9 +54,12 @@ void add_generate(CLI::App& program, int& exit_status) {
   CLI::App* const command =
       program.add_subcommand("generate", "Write the library's tables from the edition's files");
   command->add_option("--facts", options->facts, "Folder of edition and iban_rules")
+      ->type_name("DIR")
       ->capture_default_str();
   command->add_option("--source", options->source, "Folder of the library's source")
+      ->type_name("DIR")
       ->capture_default_str();
+  command->footer(example);
   command->callback([options, &exit_status] { exit_status = run(*options); });
 }
 

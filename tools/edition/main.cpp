@@ -2,16 +2,13 @@
 #include <exception>
 #include <iostream>
 
-#include "generate_command.h"
-#include "import_command.h"
+#include "all_commands.h"
 
 int main(int argument_count, char** arguments) {
   int exit_status = 0;
   try {
-    CLI::App program("Makes an edition of the directory that the library carries", "tivex-edition");
-    program.require_subcommand(1);
-    tivex_edition::add_generate(program, exit_status);
-    tivex_edition::add_import(program, exit_status);
+    CLI::App program(tivex_edition::program_description, tivex_edition::program_name);
+    tivex_edition::add_commands(program, exit_status);
     try {
       program.parse(argument_count, arguments);
     } catch (const CLI::ParseError& error) {

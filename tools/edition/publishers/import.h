@@ -19,10 +19,11 @@ struct import_request {
   std::string austrian;
   std::string austrian_valid_from;
   std::string swiss;
+  bool shrink = false;  // a table may lose many rows
 };
 
 // Replaces tables of the edition in the folder and tells, in a line each, what was
-// taken. With a fault nothing is written.
+// taken and what that changes. With a fault nothing is written.
 std::string import_tables(const import_request& request, fault_list& faults);
 
 }  // namespace tivex_edition
