@@ -30,6 +30,8 @@ test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 fp-compiler git l
 # shellcheck disable=SC2034
 bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrind)
 # shellcheck disable=SC2034
+document_packages=(git pkgconf python3 python3-jsonschema)
+# shellcheck disable=SC2034
 windows_library_packages=(dpkg-dev g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
   libcli11-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
