@@ -33,7 +33,8 @@ _tivex() {
         'tivex bank' | \
         'tivex account' | \
         'tivex account check' | \
-        'tivex statement')
+        'tivex statement' | \
+        'tivex help')
         path+=" ${COMP_WORDS[i]}"
         ;;
     esac
@@ -57,13 +58,27 @@ _tivex() {
     'tivex direct-debit --message-id') : ;;
     'tivex direct-debit -o' | 'tivex direct-debit --output') _tivex_offer_files ;;
     'tivex direct-debit --delimiter') _tivex_offer ',' '\;' 'tab' ;;
+    'tivex iban check --input') _tivex_offer_files ;;
+    'tivex iban check --column') : ;;
+    'tivex iban check --delimiter') _tivex_offer ',' '\;' 'tab' ;;
     'tivex iban convert --bank-code') : ;;
     'tivex iban convert -o' | 'tivex iban convert --output') _tivex_offer_files ;;
+    'tivex iban convert --input') _tivex_offer_files ;;
+    'tivex iban convert --column') : ;;
     'tivex iban convert --delimiter') _tivex_offer ',' '\;' 'tab' ;;
+    'tivex iban bic --input') _tivex_offer_files ;;
+    'tivex iban bic --column') : ;;
+    'tivex iban bic --delimiter') _tivex_offer ',' '\;' 'tab' ;;
     'tivex bank --iban') : ;;
     'tivex bank --bic') : ;;
+    'tivex bank --input') _tivex_offer_files ;;
+    'tivex bank --column') : ;;
+    'tivex bank --delimiter') _tivex_offer ',' '\;' 'tab' ;;
     'tivex account check --method') : ;;
     'tivex account check --bank-code') : ;;
+    'tivex account check --input') _tivex_offer_files ;;
+    'tivex account check --column') : ;;
+    'tivex account check --delimiter') _tivex_offer ',' '\;' 'tab' ;;
     'tivex statement --format') _tivex_offer 'csv' 'json' 'table' ;;
     'tivex statement --from') : ;;
     'tivex statement --to') : ;;
@@ -81,22 +96,23 @@ _tivex() {
 _tivex_offer_options() {
   case $1 in
       'tivex') _tivex_offer '-h' '--help' '--version' ;;
-      'tivex credit-transfer') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' ;;
-      'tivex direct-debit') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--creditor-id' '--type' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' ;;
+      'tivex credit-transfer') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
+      'tivex direct-debit') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--creditor-id' '--type' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
       'tivex iban') _tivex_offer '-h' '--help' ;;
-      'tivex iban check') _tivex_offer '-h' '--help' ;;
-      'tivex iban convert') _tivex_offer '-h' '--help' '--bank-code' '-o' '--output' '--delimiter' ;;
-      'tivex iban bic') _tivex_offer '-h' '--help' ;;
-      'tivex bank') _tivex_offer '-h' '--help' '--iban' '--bic' '--json' ;;
+      'tivex iban check') _tivex_offer '-h' '--help' '--input' '--column' '--delimiter' '--json' ;;
+      'tivex iban convert') _tivex_offer '-h' '--help' '--bank-code' '-o' '--output' '--input' '--column' '--delimiter' '--json' ;;
+      'tivex iban bic') _tivex_offer '-h' '--help' '--input' '--column' '--delimiter' '--json' ;;
+      'tivex bank') _tivex_offer '-h' '--help' '--iban' '--bic' '--input' '--column' '--delimiter' '--json' ;;
       'tivex account') _tivex_offer '-h' '--help' ;;
-      'tivex account check') _tivex_offer '-h' '--help' '--method' '--bank-code' ;;
-      'tivex statement') _tivex_offer '-h' '--help' '--format' '--from' '--to' '--encoding' '--strict' ;;
+      'tivex account check') _tivex_offer '-h' '--help' '--method' '--bank-code' '--input' '--column' '--delimiter' '--json' ;;
+      'tivex statement') _tivex_offer '-h' '--help' '--format' '--json' '--from' '--to' '--encoding' '--strict' '--quiet' ;;
+      'tivex help') _tivex_offer '-h' '--help' ;;
   esac
 }
 
 _tivex_offer_arguments() {
   case $1 in
-    'tivex') _tivex_offer 'credit-transfer' 'direct-debit' 'iban' 'bank' 'account' 'statement' ;;
+    'tivex') _tivex_offer 'credit-transfer' 'direct-debit' 'iban' 'bank' 'account' 'statement' 'help' ;;
     'tivex credit-transfer') _tivex_offer_files ;;
     'tivex direct-debit') _tivex_offer_files ;;
     'tivex iban') _tivex_offer 'check' 'convert' 'bic' ;;
@@ -107,6 +123,7 @@ _tivex_offer_arguments() {
     'tivex account') _tivex_offer 'check' ;;
     'tivex account check') : ;;
     'tivex statement') _tivex_offer_files ;;
+    'tivex help') _tivex_offer 'credit-transfer' 'direct-debit' 'iban' 'bank' 'account' 'statement' 'help' ;;
   esac
 }
 

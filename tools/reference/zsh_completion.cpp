@@ -17,7 +17,8 @@ std::string escaped(const std::string& text) {
 }
 
 std::string value_of(const parameter& completed) {
-  std::string text = ':' + escaped(completed.value) + ':';
+  std::string text = ":";
+  text += escaped(completed.value) + ':';
   if (completed.values.empty()) return text + (completed.takes_file() ? "_files" : "()");
   text += '(';
   for (const std::string& value : completed.values) {
