@@ -5,7 +5,7 @@ import subprocess
 
 import jsonschema
 
-from markdown import codes
+from markdown import code, codes
 
 
 def parts(schema):
@@ -34,11 +34,13 @@ def loose_objects(schema, path="schema"):
 def faults(document, folder, cases, scratch, environment):
     schemas = {path.name: json.loads(path.read_text()) for path in sorted(folder.glob("*.json"))}
     told = {}
+    name = None
     for line, cells in document.table("Schema"):
-        for name in codes(cells[0]):
-            told.setdefault(name, set()).update(codes(cells[1]))
-        if not set(codes(cells[0])) <= set(schemas):
-            yield line, f"{cells[0]} does not exist"
+        # Rows without a name go on with the members of the one above.
+        name = code(cells[0]) or name
+        told.setdefault(name, set()).update(codes(cells[1]))
+        if name not in schemas:
+            yield line, f"{name} does not exist"
     for name, schema in schemas.items():
         jsonschema.Draft7Validator.check_schema(schema)
         for fault in loose_objects(schema):

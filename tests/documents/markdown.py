@@ -55,7 +55,7 @@ class Document:
             cells = [cell.strip().replace("&#124;", "|") for cell in line.split("|")[1:-1]]
             if not cells:
                 inside = False
-            elif inside and not set(cells[0]) <= set("-: "):
+            elif inside and not re.fullmatch(r":?-+:?", cells[0]):
                 yield number, cells
             elif cells[0] == first_column:
                 inside = True

@@ -33,15 +33,16 @@ def missing_files(document, root):
 
 def unknown_functions(document, root):
     declared = (root / "include/tivex.h").read_text()
-    for targets in ("bench/CMakeLists.txt", "tests/CMakeLists.txt"):
-        declared += (root / targets).read_text()
+    for pattern in ("CMakeLists.txt", "bench/CMakeLists.txt", "tests/CMakeLists.txt",
+                    "cmake/*", "packaging/debian/*.cmake"):
+        declared += "".join(path.read_text() for path in root.glob(pattern))
     parts = [(number, text) for number, text in document.prose]
     for block in document.blocks:
         parts += [(block.line + at, text) for at, text in enumerate(block.lines)]
     for line, text in parts:
         for name in re.findall(r"\b(?:tivex_[A-Za-z0-9_]+|TIVEX_[A-Z0-9_]+)\b", text):
             known = name in declared or name in ("TIVEX_SCHEMAS", "TIVEX_PROGRAM")
-            if not known and not name.startswith("TIVEX_BUILD_"):
+            if not known:
                 yield line, f"{name} is not declared"
 
 
