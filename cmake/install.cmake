@@ -28,6 +28,9 @@ else()
   file(RELATIVE_PATH to_library /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
   set(program_to_library "\$ORIGIN/${to_library}")
 endif()
+if(TIVEX_DEBIAN_PACKAGES)
+  set(pc_prefix ${CMAKE_INSTALL_PREFIX}) # so that folders of the system are not named
+endif()
 if(NOT WIN32)
   set(pc_private_libs -lm)
 endif()
@@ -102,9 +105,8 @@ install_completion(tivex.fish fish/vendor_completions.d tivex.fish)
 
 # --- Documents and examples ------------------------------------------------------------
 
-file(GLOB documents CONFIGURE_DEPENDS docs/*.md)
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT program)
-install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT program)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT program)
 install(FILES LICENSE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT licence)
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT program
   PATTERN hosts EXCLUDE PATTERN *.c EXCLUDE)
