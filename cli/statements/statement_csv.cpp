@@ -1,11 +1,11 @@
 #include "statements/statement_csv.h"
 
-#include <cstdio>
 #include <string>
 
 #include "files/csv_cell.h"
 #include "statements/one_line.h"
 #include "statements/statement_fields.h"
+#include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {
@@ -46,7 +46,7 @@ std::string repeated_cells(const statement_view& view) {
 void begin_statement_csv() {
   std::string header = repeated_columns;
   for (const auto& field : entry_fields) append(header, field.name);
-  std::puts(header.c_str());
+  print_to_standard_output(header + '\n');
 }
 
 void print_statement_csv(const statement_view& view, bool) {
@@ -56,7 +56,7 @@ void print_statement_csv(const statement_view& view, bool) {
     for (const auto& field : entry_fields) {
       append(row, std::visit(cell_maker{view.encoding}, field.value(entry)));
     }
-    std::puts(row.c_str());
+    print_to_standard_output(row + '\n');
   });
 }
 

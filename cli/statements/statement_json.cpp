@@ -1,10 +1,10 @@
 #include "statements/statement_json.h"
 
-#include <cstdio>
 #include <string>
 
 #include "statements/statement_fields.h"
 #include "terminal/json_text.h"
+#include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {
@@ -32,11 +32,9 @@ void add_fields(json_object& object, std::span<const record_field<record>> field
   }
 }
 
-void write(const std::string& text) { std::fwrite(text.data(), 1, text.size(), stdout); }
-
 }  // namespace
 
-void begin_statement_json() { write("["); }
+void begin_statement_json() { print_to_standard_output("["); }
 
 void print_statement_json(const statement_view& view, bool first) {
   json_object head;
@@ -46,17 +44,17 @@ void print_statement_json(const statement_view& view, bool first) {
   std::string text = head.dump();
   // The entries follow within the object, each on its line.
   text.pop_back();
-  write((first ? "\n" : ",\n") + text + ",\"entries\":[");
+  print_to_standard_output((first ? "\n" : ",\n") + text + ",\"entries\":[");
   bool first_entry = true;
   for_each_entry(view, [&](const tivex_stmt_tx_t& entry) {
     json_object object;
     add_fields(object, entry_fields, entry, view.encoding);
-    write((first_entry ? "\n  " : ",\n  ") + object.dump());
+    print_to_standard_output((first_entry ? "\n  " : ",\n  ") + object.dump());
     first_entry = false;
   });
-  write("]}");
+  print_to_standard_output("]}");
 }
 
-void end_statement_json() { write("\n]\n"); }
+void end_statement_json() { print_to_standard_output("\n]\n"); }
 
 }  // namespace tivex_program

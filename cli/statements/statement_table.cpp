@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <string>
 #include <string_view>
 
 #include "statements/one_line.h"
 #include "terminal/colours.h"
 #include "terminal/labelled_line.h"
+#include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {
@@ -82,7 +82,7 @@ std::string entry_line(const statement_view& view, const tivex_stmt_tx_t& entry,
 }
 
 void print_line(std::string_view label, const std::string& value) {
-  std::puts(labelled_line(label, value).c_str());
+  print_to_standard_output(labelled_line(label, value) + '\n');
 }
 
 std::string or_dash(const std::string& text) { return text.empty() ? "-" : text; }
@@ -134,11 +134,11 @@ void print_foot(const statement_view& view, const entry_totals& totals) {
 void begin_statement_table() {}
 
 void print_statement_table(const statement_view& view, bool first) {
-  if (!first) std::puts("");
+  if (!first) print_to_standard_output("\n");
   const table_frame frame = measure(view);
   print_head(view);
   for_each_entry(view, [&](const tivex_stmt_tx_t& entry) {
-    std::puts(entry_line(view, entry, frame).c_str());
+    print_to_standard_output(entry_line(view, entry, frame) + '\n');
   });
   print_foot(view, frame.totals);
 }
