@@ -8,7 +8,7 @@
 #include "files/column_reader.h"
 #include "files/csv_cell.h"
 #include "files/csv_reader.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 #include "terminal/progress_line.h"
 
 namespace tivex_program {
@@ -74,16 +74,16 @@ iban_conversion convert_row(const csv_row& row, const conversion_columns& column
 void append_object(std::string& text, const csv_row& row, const conversion_columns& columns,
                    const iban_conversion& conversion) {
   json_object object;
-  object["line"] = row.line;
+  object.add_number("line", row.line);
   if (row_fault(row, columns.header_size).empty()) {
-    object["bank_code"] = json_text(row.cells[columns.bank_code]);
-    object["account"] = json_text(row.cells[columns.account]);
+    object.add_text("bank_code", row.cells[columns.bank_code]);
+    object.add_text("account", row.cells[columns.account]);
   } else {
-    object["bank_code"] = nullptr;
-    object["account"] = nullptr;
+    object.add_null("bank_code");
+    object.add_null("account");
   }
   add_conversion(object, conversion);
-  text += object.dump();
+  text += object.line();
   text += '\n';
 }
 

@@ -68,11 +68,11 @@ iban_conversion convert_account(const std::string& bank_code, const std::string&
 }
 
 void add_conversion(json_object& object, const iban_conversion& conversion) {
-  object["iban"] = json_text_or_null(conversion.iban);
-  object["bic"] = json_text_or_null(conversion.bic);
-  object["bank"] = json_text_or_null(conversion.bank);
-  object["status"] = json_text(conversion.status);
-  object["converted"] = conversion.made();
+  object.add_text_or_null("iban", conversion.iban);
+  object.add_text_or_null("bic", conversion.bic);
+  object.add_text_or_null("bank", conversion.bank);
+  object.add_text("status", conversion.status);
+  object.add_flag("converted", conversion.made());
 }
 
 }  // namespace tivex_program

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 
 namespace tivex_program {
 

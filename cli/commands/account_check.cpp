@@ -13,7 +13,7 @@
 #include "commands/asked_items.h"
 #include "platform/exit_status.h"
 #include "terminal/diagnostics.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 
 namespace tivex_program {
 namespace {
@@ -78,12 +78,12 @@ int run(const account_query& query) {
                            : tivex_account_check2(account.data(), bank_code, *method);
     if (query.accounts.json) {
       json_object object;
-      object["account"] = json_text(account);
-      object["bank_code"] = json_text_or_null(query.bank_code);
-      object["method"] = code;
-      object["result"] = json_text_or_null(fits ? verdict(result) : "");
-      object["fault"] = json_text_or_null(fits ? "" : account_wanted);
-      line += object.dump();
+      object.add_text("account", account);
+      object.add_text_or_null("bank_code", query.bank_code);
+      object.add_text("method", code);
+      object.add_text_or_null("result", fits ? verdict(result) : "");
+      object.add_text_or_null("fault", fits ? "" : account_wanted);
+      line += object.line();
     } else {
       append_subject(line, account);
       line += fits ? verdict(result) : account_wanted;

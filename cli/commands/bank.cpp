@@ -15,7 +15,7 @@
 #include "platform/exhausted_memory.h"
 #include "platform/exit_status.h"
 #include "terminal/diagnostics.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 #include "terminal/labelled_line.h"
 #include "terminal/standard_output.h"
 
@@ -99,10 +99,10 @@ void print_json(const tivex_bank_info_t& bank, bool with_schemes) {
   json_object object;
   for (const named_field& field : fields_of(bank)) {
     // A bank without a BIC, say, has none rather than an empty one.
-    object[field.json_key] = json_text_or_null(field.text);
+    object.add_text_or_null(field.json_key, field.text);
   }
-  if (with_schemes) object["schemes"] = schemes_of(bank);
-  std::puts(object.dump(2).c_str());
+  if (with_schemes) object.add_texts("schemes", schemes_of(bank));
+  std::puts(object.lines().c_str());
 }
 
 // Why the library found no bank, null when it found one.
@@ -148,17 +148,21 @@ const char* or_empty(const char* text) { return text == nullptr ? "" : text; }
 void append_json(std::string& line, std::string_view asked, const tivex_bank_info_t* bank,
                  bool with_schemes, const char* fault) {
   json_object object;
-  object["query"] = json_text(asked);
-  object["name"] = json_text_or_null(bank == nullptr ? "" : bank->name);
-  object["postcode"] = json_text_or_null(bank == nullptr ? "" : or_empty(bank->postcode));
-  object["city"] = json_text_or_null(bank == nullptr ? "" : or_empty(bank->city));
-  object["country"] = json_text_or_null(bank == nullptr ? "" : country_of(*bank));
-  object["bic"] = json_text_or_null(bank == nullptr ? "" : bank->bic);
+  object.add_text("query", asked);
+  object.add_text_or_null("name", bank == nullptr ? "" : bank->name);
+  object.add_text_or_null("postcode", bank == nullptr ? "" : or_empty(bank->postcode));
+  object.add_text_or_null("city", bank == nullptr ? "" : or_empty(bank->city));
+  object.add_text_or_null("country", bank == nullptr ? "" : country_of(*bank));
+  object.add_text_or_null("bic", bank == nullptr ? "" : bank->bic);
   if (with_schemes) {
-    object["schemes"] = bank == nullptr ? json_object() : json_object(schemes_of(*bank));
+    if (bank == nullptr) {
+      object.add_null("schemes");
+    } else {
+      object.add_texts("schemes", schemes_of(*bank));
+    }
   }
-  object["fault"] = json_text_or_null(or_empty(fault));
-  line += object.dump();
+  object.add_text_or_null("fault", or_empty(fault));
+  line += object.line();
 }
 
 // Appends what the directory has of the bank, separated by commas.

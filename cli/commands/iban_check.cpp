@@ -11,7 +11,7 @@
 #include "commands/asked_items.h"
 #include "files/value_rules.h"
 #include "payments/library_calls.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 
 namespace tivex_program {
 namespace {
@@ -53,10 +53,10 @@ int run(const asked_items& asked) {
     const std::string fault = checker.fault_of(iban);
     if (asked.json) {
       json_object object;
-      object["iban"] = json_text(iban);
-      object["valid"] = fault.empty();
-      object["fault"] = json_text_or_null(fault);
-      line += object.dump();
+      object.add_text("iban", iban);
+      object.add_flag("valid", fault.empty());
+      object.add_text_or_null("fault", fault);
+      line += object.line();
     } else {
       append_subject(line, iban);
       line += fault.empty() ? "valid" : fault;

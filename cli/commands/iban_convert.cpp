@@ -15,7 +15,7 @@
 #include "platform/exit_status.h"
 #include "platform/output_file.h"
 #include "terminal/diagnostics.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 #include "terminal/labelled_line.h"
 #include "terminal/standard_output.h"
 
@@ -58,10 +58,10 @@ int convert_accounts(const conversion_query& query) {
     const iban_conversion conversion = convert_account(query.bank_code, std::string(account));
     if (query.asked.json) {
       json_object object;
-      object["bank_code"] = json_text(query.bank_code);
-      object["account"] = json_text(account);
+      object.add_text("bank_code", query.bank_code);
+      object.add_text("account", account);
       add_conversion(object, conversion);
-      line += object.dump();
+      line += object.line();
       return conversion.made();
     }
     append_subject(line, account);
@@ -138,10 +138,10 @@ int print_bics(const asked_items& asked) {
     }
     if (asked.json) {
       json_object object;
-      object["iban"] = json_text(iban);
-      object["bic"] = json_text_or_null(bic);
-      object["fault"] = json_text_or_null(fault == nullptr ? "" : fault);
-      line += object.dump();
+      object.add_text("iban", iban);
+      object.add_text_or_null("bic", bic);
+      object.add_text_or_null("fault", fault == nullptr ? "" : fault);
+      line += object.line();
     } else {
       append_subject(line, iban);
       line += fault == nullptr ? bic : fault;

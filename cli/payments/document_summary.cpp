@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include "terminal/diagnostics.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 #include "terminal/labelled_line.h"
 
 namespace tivex_program {
@@ -64,15 +64,15 @@ std::string text_of(const document_summary& summary, const std::string& file) {
 
 std::string json_of(const document_summary& summary, const std::string& file) {
   json_object object;
-  object["transactions"] = summary.transactions;
-  object["sum"] = summary.sum;
-  object["currency"] = currency;
-  object["payment_blocks"] = summary.payment_blocks;
-  object["rulebook"] = summary.rulebook;
-  object["message"] = summary.message;
-  object["schema"] = json_text_or_null(summary.schema);
-  object["file"] = json_text_or_null(file);
-  return object.dump() + '\n';
+  object.add_number("transactions", summary.transactions);
+  object.add_text("sum", summary.sum);
+  object.add_text("currency", currency);
+  object.add_number("payment_blocks", summary.payment_blocks);
+  object.add_text("rulebook", summary.rulebook);
+  object.add_text("message", summary.message);
+  object.add_text_or_null("schema", summary.schema);
+  object.add_text_or_null("file", file);
+  return object.line() + '\n';
 }
 
 }  // namespace tivex_program

@@ -1,32 +1,34 @@
 #include "statements/statement_json.h"
 
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "statements/statement_fields.h"
-#include "terminal/json_text.h"
 #include "terminal/standard_output.h"
 
 namespace tivex_program {
 namespace {
 
+using nlohmann::ordered_json;
+
 // Makes a value of JSON of what a field holds.
 struct json_maker {
   text_encoding encoding;
 
-  json_object operator()(std::monostate) const { return nullptr; }
-  json_object operator()(bool flag) const { return flag; }
-  json_object operator()(std::int64_t number) const { return number; }
-  json_object operator()(const statement_date& date) const { return to_text(date); }
-  json_object operator()(std::string_view text) const { return to_utf8(text, encoding); }
+  ordered_json operator()(std::monostate) const { return nullptr; }
+  ordered_json operator()(bool flag) const { return flag; }
+  ordered_json operator()(std::int64_t number) const { return number; }
+  ordered_json operator()(const statement_date& date) const { return to_text(date); }
+  ordered_json operator()(std::string_view text) const { return to_utf8(text, encoding); }
   // The number nearest to the cents is written with two decimals at most.
-  json_object operator()(double amount) const {
+  ordered_json operator()(double amount) const {
     return static_cast<double>(cents_of(amount)) / 100;
   }
 };
 
 template <typename record>
-void add_fields(json_object& object, std::span<const record_field<record>> fields, const record& of,
-                text_encoding encoding) {
+void add_fields(ordered_json& object, std::span<const record_field<record>> fields,
+                const record& of, text_encoding encoding) {
   for (const record_field<record>& field : fields) {
     object[field.name] = std::visit(json_maker{encoding}, field.value(of));
   }
@@ -37,7 +39,7 @@ void add_fields(json_object& object, std::span<const record_field<record>> field
 void begin_statement_json() { print_to_standard_output("["); }
 
 void print_statement_json(const statement_view& view, bool first) {
-  json_object head;
+  ordered_json head;
   head["file"] = to_utf8(view.file, text_encoding::utf8);
   add_fields(head, statement_fields, view.statement, view.encoding);
   head["balanced"] = view.balance_fault.empty();
@@ -47,7 +49,7 @@ void print_statement_json(const statement_view& view, bool first) {
   print_to_standard_output((first ? "\n" : ",\n") + text + ",\"entries\":[");
   bool first_entry = true;
   for_each_entry(view, [&](const tivex_stmt_tx_t& entry) {
-    json_object object;
+    ordered_json object;
     add_fields(object, entry_fields, entry, view.encoding);
     print_to_standard_output((first_entry ? "\n  " : ",\n  ") + object.dump());
     first_entry = false;

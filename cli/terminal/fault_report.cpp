@@ -1,7 +1,7 @@
 #include "terminal/fault_report.h"
 
 #include "terminal/diagnostics.h"
-#include "terminal/json_text.h"
+#include "terminal/json_object.h"
 
 namespace tivex_program {
 namespace {
@@ -15,11 +15,15 @@ std::string line_of_text(const std::string& file, const file_fault& fault) {
 
 std::string line_of_json(const std::string& file, const file_fault& fault) {
   json_object object;
-  object["file"] = json_text(file);
-  object["line"] = fault.line > 0 ? json_object(fault.line) : json_object();
-  object["key"] = json_text_or_null(fault.key);
-  object["fault"] = json_text(fault.text);
-  return object.dump() + '\n';
+  object.add_text("file", file);
+  if (fault.line > 0) {
+    object.add_number("line", fault.line);
+  } else {
+    object.add_null("line");
+  }
+  object.add_text_or_null("key", fault.key);
+  object.add_text("fault", fault.text);
+  return object.line() + '\n';
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ std::string quoted(const std::string& text) {
 }
 
 std::string shell_word(const std::string& value) {
-  return value.find_first_of(";&|<>()$`\\\"' *?[]#~") == value.npos ? value : '\\' + value;
+  return value.find_first_of(";&|<>()$`\\\"' *?[]#~") == std::string::npos ? value : '\\' + value;
 }
 
 bool names_command(const parameter& argument) { return argument.value == "COMMAND"; }

@@ -12,7 +12,7 @@ using texts = std::vector<std::string>;
 
 texts split(std::string_view text, std::string_view separator) {
   texts parts;
-  for (std::size_t at = text.find(separator); at != text.npos; at = text.find(separator)) {
+  for (std::size_t at = text.find(separator); at != std::string::npos; at = text.find(separator)) {
     parts.emplace_back(text.substr(0, at));
     text.remove_prefix(at + separator.size());
   }
@@ -31,7 +31,7 @@ texts members(CLI::Option& option) {
   }
   constexpr std::string_view mark = " not in {";
   const std::size_t at = reason.find(mark);
-  if (at == reason.npos) return {};
+  if (at == std::string::npos) return {};
   const std::size_t begin = at + mark.size();
   texts all;
   texts parts = split(std::string_view(reason).substr(begin, reason.size() - begin - 1), ",");
@@ -48,11 +48,11 @@ texts listed(const std::string& description) {
   const std::size_t colon = description.find(": ");
   texts all;
   for (const std::string& part :
-       split(colon == description.npos ? description : description.substr(colon + 2), ", ")) {
+       split(colon == std::string::npos ? description : description.substr(colon + 2), ", ")) {
     for (std::string word : split(part, " or ")) {
       constexpr std::string_view mark = " (default)";
       if (word.ends_with(mark)) word.erase(word.size() - mark.size());
-      if (word.empty() || word.find_first_of(" ;:(") != word.npos) return {};
+      if (word.empty() || word.find_first_of(" ;:(") != std::string::npos) return {};
       all.push_back(word);
     }
   }

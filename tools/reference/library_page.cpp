@@ -22,7 +22,7 @@ std::string without_marks(std::string line) {
   for (const std::string_view mark : {"/**", " */", " *", "*/"}) {
     if (line.starts_with(mark)) line.erase(0, mark.size());
   }
-  if (const std::size_t end = line.find("*/"); end != line.npos) line.erase(end);
+  if (const std::size_t end = line.find("*/"); end != std::string::npos) line.erase(end);
   line.erase(0, std::min(line.find_first_not_of(' '), line.size()));
   line.erase(line.find_last_not_of(' ') + 1);
   return line;
@@ -39,7 +39,7 @@ std::vector<item> read_items(const std::string& header) {
     }
     if (in_comment) {
       items.back().comment.push_back(without_marks(line));
-      in_comment = line.find("*/") == line.npos;
+      in_comment = line.find("*/") == std::string::npos;
     } else if (!items.empty()) {
       items.back().declaration += (line.empty() ? "" : line + '\n');
     }
@@ -71,7 +71,7 @@ std::string prototype(const item& of) {
   constexpr std::string_view mark = "TIVEX_API ";
   const std::string declaration = of.declaration.substr(0, of.declaration.find(';') + 1);
   const std::size_t at = declaration.find(mark);
-  if (at == declaration.npos || declaration.find('#') != declaration.npos) return {};
+  if (at == std::string::npos || declaration.find('#') != std::string::npos) return {};
   std::string text = declaration;
   text.erase(at, mark.size());
   return text;

@@ -30,7 +30,7 @@ std::string value_of(const parameter& of) {
   std::string text = italic(of.value);
   // "ACCOUNT or FILE" stands for two.
   const std::size_t at = text.find(" or ");
-  return at == text.npos ? text : text.replace(at, 4, "\\fR | \\fI");
+  return at == std::string::npos ? text : text.replace(at, 4, "\\fR | \\fI");
 }
 
 std::string head(const std::string& name, const std::string& description) {
@@ -67,7 +67,7 @@ std::string parameter_entry(const parameter& of) {
   for (const std::string& name : of.names()) subject += (subject.empty() ? "" : ", ") + bold(name);
   if (!of.value.empty()) subject += (subject.empty() ? "" : " ") + value_of(of);
   std::string text = of.description + '.';
-  if (!of.values.empty() && text.find(of.values.front()) == text.npos) {
+  if (!of.values.empty() && text.find(of.values.front()) == std::string::npos) {
     text += " One of " + joined(of.values) + '.';
   }
   if (!of.fallback.empty()) text += " Default: " + of.fallback + '.';
@@ -87,7 +87,7 @@ std::string parameters(const command& of, const char* heading) {
 // The footer of a command's help: notes, and from a line "Example:" on examples.
 std::string footer(const command& of, const char* notes_heading, const char* examples_heading) {
   std::size_t at = of.footer.find("Example");
-  if (at != 0 && at != of.footer.npos) at = of.footer.find("\nExample");
+  if (at != 0 && at != std::string::npos) at = of.footer.find("\nExample");
   at = std::min(at, of.footer.size());
   std::string before = of.footer.substr(0, at);
   while (before.ends_with('\n')) before.pop_back();

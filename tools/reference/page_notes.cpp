@@ -1,5 +1,7 @@
 #include "page_notes.h"
 
+#include <algorithm>
+
 #include "manual_text.h"
 
 namespace tivex_reference {
@@ -56,11 +58,9 @@ constexpr note written_files[] = {
 };
 
 bool has_option(const command& of, const char* name) {
-  if (of.find_option(name) != nullptr) return true;
-  for (const command& each : of.commands) {
-    if (has_option(each, name)) return true;
-  }
-  return false;
+  return of.find_option(name) != nullptr ||
+         std::ranges::any_of(of.commands,
+                             [name](const command& each) { return has_option(each, name); });
 }
 
 bool holds(const note& about, const command& of) {

@@ -22,7 +22,8 @@ std::string value_of(const parameter& completed) {
   if (completed.values.empty()) return text + (completed.takes_file() ? "_files" : "()");
   text += '(';
   for (const std::string& value : completed.values) {
-    text += (text.ends_with('(') ? "" : " ") + shell_word(value);
+    if (!text.ends_with('(')) text += ' ';
+    text += shell_word(value);
   }
   return text + ')';
 }
