@@ -44,9 +44,10 @@ void end_at_once(std::string_view last_words, int exit_status) {
 }
 
 void end_when_reader_has_gone() {
-  // The C library knows one of the two reasons only.
-  const bool closing = errno == EINVAL && _doserrno == ERROR_NO_DATA;
-  if (errno == EPIPE || closing) ::_exit(exit_failure);
+  // The system has several words for it, of which the C library knows one only.
+  const auto output = reinterpret_cast<HANDLE>(::_get_osfhandle(1));
+  const bool refused_by_pipe = errno == EINVAL && ::GetFileType(output) == FILE_TYPE_PIPE;
+  if (errno == EPIPE || refused_by_pipe) ::_exit(exit_failure);
 }
 
 void wipe(void* memory, std::size_t size) { ::SecureZeroMemory(memory, size); }

@@ -10,6 +10,7 @@ namespace {
 
 std::vector<std::string> names_of(const std::set<CLI::Option*>& options) {
   std::vector<std::string> names;
+  names.reserve(options.size());
   for (const CLI::Option* const option : options) names.push_back(option->get_name());
   std::sort(names.begin(), names.end());  // the set is sorted by address
   return names;
