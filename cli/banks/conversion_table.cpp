@@ -90,7 +90,7 @@ void append_object(std::string& text, const csv_row& row, const conversion_colum
 }  // namespace
 
 conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
-                               const line_taker& take) {
+                               const line_taker& take, bool shows_progress) {
   conversion_totals totals;
   csv_reader reader(input, delimiter);
   csv_row row;
@@ -108,7 +108,7 @@ conversion_totals convert_rows(input_file& input, char delimiter, conversion_for
   }
   std::string text;
   if (as_csv) append_row(text, row.cells, added_columns, delimiter);
-  progress_line progress(input.size());
+  progress_line progress(input.size(), shows_progress);
   while (take(text) && reader.next(row)) {
     const iban_conversion conversion = convert_row(row, columns);
     ++(conversion.made() ? totals.converted : totals.refused);

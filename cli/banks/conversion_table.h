@@ -25,6 +25,6 @@ using line_taker = std::function<bool(std::string_view line)>;
 // Makes the IBANs of a CSV file's bank codes and accounts. Rows that cannot be converted
 // stay, with the reason as their status.
 conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
-                               const line_taker& take);
+                               const line_taker& take, bool shows_progress);
 
 }  // namespace tivex_program

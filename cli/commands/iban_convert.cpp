@@ -51,6 +51,7 @@ struct conversion_query {
   std::string bank_code;
   asked_items asked;  // accounts, or one file
   std::string output = "-";
+  bool quiet = false;
 };
 
 int convert_accounts(const conversion_query& query) {
@@ -92,9 +93,9 @@ int convert_file(const conversion_query& query) {
     return true;
   };
   input_file input(name);
-  const conversion_totals totals =
-      convert_rows(input, delimiters.at(query.asked.delimiter),
-                   query.asked.json ? conversion_form::json : conversion_form::csv, take);
+  const conversion_totals totals = convert_rows(
+      input, delimiters.at(query.asked.delimiter),
+      query.asked.json ? conversion_form::json : conversion_form::csv, take, !query.quiet);
   if (streams && !flush_standard_output()) return exit_failure;
   if (!totals.error.empty()) {
     print_error(totals.error);
@@ -110,7 +111,7 @@ int convert_file(const conversion_query& query) {
     print_error((to_file ? query.output : "standard output") + ": " + fault);
     return exit_failure;
   }
-  print_lines(summary);
+  if (!query.quiet) print_lines(summary);
   return totals.refused == 0 ? exit_success : exit_failure;
 }
 
@@ -166,6 +167,7 @@ void add_iban_convert(CLI::App& ibans, int& exit_status) {
       ->add_option("ACCOUNT or FILE", query->asked.arguments,
                    "Account numbers with --bank-code, else a CSV file")
       ->type_name("");
+  command->add_flag("--quiet", query->quiet, "Tell errors only, not how many rows were converted");
   add_asking_options(*command, query->asked);
   command->footer(convert_example);
   command->callback([command, query, &exit_status] {

@@ -100,7 +100,7 @@ _tivex_offer_options() {
       'tivex direct-debit') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--creditor-id' '--type' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
       'tivex iban') _tivex_offer '-h' '--help' ;;
       'tivex iban check') _tivex_offer '-h' '--help' '--input' '--column' '--delimiter' '--json' ;;
-      'tivex iban convert') _tivex_offer '-h' '--help' '--bank-code' '-o' '--output' '--input' '--column' '--delimiter' '--json' ;;
+      'tivex iban convert') _tivex_offer '-h' '--help' '--bank-code' '-o' '--output' '--quiet' '--input' '--column' '--delimiter' '--json' ;;
       'tivex iban bic') _tivex_offer '-h' '--help' '--input' '--column' '--delimiter' '--json' ;;
       'tivex bank') _tivex_offer '-h' '--help' '--iban' '--bic' '--input' '--column' '--delimiter' '--json' ;;
       'tivex account') _tivex_offer '-h' '--help' ;;

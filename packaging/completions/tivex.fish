@@ -68,6 +68,7 @@ complete -c tivex -n '__tivex_at "tivex iban check"' -l json -d 'Print an object
 complete -c tivex -n '__tivex_at "tivex iban convert"' -s h -l help -d 'Print this help message and exit'
 complete -c tivex -n '__tivex_at "tivex iban convert"' -l bank-code -x -d 'Bank code of the accounts, 8 digits'
 complete -c tivex -n '__tivex_at "tivex iban convert"' -s o -l output -r -F -d 'File to write (default: - for standard output)'
+complete -c tivex -n '__tivex_at "tivex iban convert"' -l quiet -d 'Tell errors only, not how many rows were converted'
 complete -c tivex -n '__tivex_at "tivex iban convert"' -l input -r -F -d 'File to read lines of; - for standard input'
 complete -c tivex -n '__tivex_at "tivex iban convert"' -l column -x -d 'The input is CSV: read this column of it'
 complete -c tivex -n '__tivex_at "tivex iban convert"' -l delimiter -x -a ', \; tab' -d 'What separates the cells: , ; or tab'
