@@ -702,14 +702,24 @@ TIVEX_API int tivex_iban_getBIC(const char *iban, char *bic);
 /** Reads one statement file. The host creates a parser for every file. */
 typedef struct tivex_stmt_parser tivex_stmt_parser_t;
 
-/** The format of a file: SWIFT MT940, customer statement message. */
+/** A format: SWIFT MT940, customer statement message, in the form that banks agreed on. */
 #define TIVEX_FORMAT_MT940 1
+/** A format: TIVEX_FORMAT_CAMT where "<" comes first, behind a byte order mark and white space,
+    else TIVEX_FORMAT_MT940_DIALECTS. */
+#define TIVEX_FORMAT_DETECT 1000
+/** A format: ISO 20022 camt.052 (report), camt.053 (statement) and camt.054 (notification),
+    version 02 and later. Texts are UTF-8 whatever encoding the file declares. */
+#define TIVEX_FORMAT_CAMT 1053
+/** A format: MT940 and MT942 as banks write them: other line ends, missing and additional tags,
+    other forms of tag 86. */
+#define TIVEX_FORMAT_MT940_DIALECTS 1940
 
 /**
- * One entry of a statement: a tag 61 and the tag 86 that follows it. Texts are as
- * the file has them, in the bank's encoding; they and the record belong to the
- * parser. What the file does not hold is null, 0 or empty. Of dates only tm_mday,
- * tm_mon and tm_year are set.
+ * One entry of a statement: a tag 61 and the tag 86 that follows it, an Ntry of CAMT or one of
+ * its TxDtls. The members are described as MT940 has them; docs/statements.md tells what fills
+ * them in the other formats. Texts are as the file has them, in the bank's encoding (CAMT:
+ * UTF-8); they and the record belong to the parser. What the file does not hold is null, 0 or
+ * empty. Of dates only tm_mday, tm_mon and tm_year are set.
  */
 typedef struct tivex_stmt_tx {
   struct tm value_date;    /**< value date */
@@ -739,6 +749,8 @@ typedef struct tivex_stmt_tx {
   char *abwa;              /**< ABWA+ deviating debtor */
   char *abwe;              /**< ABWE+ deviating creditor */
   struct tivex_stmt_tx *next; /**< null after the statement's last entry */
+  char *full_name;            /**< name uncut; TIVEX_FORMAT_MT940: points to name */
+  char *return_reason;        /**< why a payment came back; null in TIVEX_FORMAT_MT940 */
 } tivex_stmt_tx_t;
 
 /** One statement, with what was said of texts and dates above. */
@@ -765,14 +777,16 @@ TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
 /**
  * Reads a file, once in the life of a parser.
  *
- * @param format TIVEX_FORMAT_MT940.
- * @param path the file, in the encoding of the system. Lines end with CR LF; a
- *        statement begins with CR LF and ":20:". Opening does not wait for a pipe's
- *        writer, but while another process gives up a lease on the file, for which the
- *        system bounds the time.
+ * @param format one of TIVEX_FORMAT_DETECT, TIVEX_FORMAT_CAMT, TIVEX_FORMAT_MT940_DIALECTS and
+ *        TIVEX_FORMAT_MT940.
+ * @param path the file, in the encoding of the system. In TIVEX_FORMAT_MT940 lines end with
+ *        CR LF and a statement begins with CR LF and ":20:". Opening does not wait for a
+ *        pipe's writer, but while another process gives up a lease on the file, for which
+ *        the system bounds the time.
  *
- * What does not fit the format ends a statement and is no error; a file without any
- * statement is read successfully.
+ * In TIVEX_FORMAT_MT940 what does not fit the format ends a statement, in
+ * TIVEX_FORMAT_MT940_DIALECTS it is passed over; neither is an error, and a file without any
+ * statement is read successfully. A CAMT document that is refused gives no statements.
  *
  * Returns 1, or 0 with the reason in the parser's error text; for a null parser 0.
  * Errors (%s the system's text): "Parser already used" (also after a load that
@@ -781,7 +795,10 @@ TIVEX_API tivex_stmt_parser_t *tivex_stmt_parser_new(void);
  * null path), "Can't stat input file: %s", "Input file is empty",
  * "Failed to allocate %li bytes", "Error while reading from file: %s". When memory is
  * exhausted for the records, or the file begins with a NUL byte, the text stays
- * empty; there are no statements then.
+ * empty; there are no statements then. Of CAMT besides: "Not well-formed XML (line %u)",
+ * "DOCTYPE not allowed (line %u)", "Elements nested too deep (line %u)" (an element inside 256
+ * others), "Unsupported encoding: %s" (others than UTF-8, US-ASCII, ISO-8859-1, ISO-8859-15 and
+ * windows-1252), "No camt document" (another root or content).
  */
 TIVEX_API int tivex_stmt_parser_load(tivex_stmt_parser_t *parser, int format, const char *path);
 
@@ -792,6 +809,11 @@ TIVEX_API tivex_stmt_t *tivex_stmt_parser_getStatement(tivex_stmt_parser_t *pars
 /** Returns the reason of the failure, at most 255 bytes, empty before one; for a null
    parser "invalid tivex_stmt_parser_t handle". The text belongs to the parser. */
 TIVEX_API const char *tivex_stmt_parser_getError(const tivex_stmt_parser_t *parser);
+
+/** Returns how many entries of the file were left out because they are not booked yet:
+    pending ones of CAMT, expected ones (marks ED and EC) of MT940 in a dialect. 0 for a null
+    parser. */
+TIVEX_API unsigned tivex_stmt_parser_getPending(const tivex_stmt_parser_t *parser);
 
 /** Releases the parser with its statements and texts, all overwritten with zeros
    before. Null is ignored. */

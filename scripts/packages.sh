@@ -22,22 +22,22 @@ debian_mirror() {
 }
 
 # shellcheck disable=SC2034 # the lists are for those who source this file
-build_packages=(g++ cmake make libcli11-dev libcsv-dev nlohmann-json3-dev)
+build_packages=(g++ cmake make libcli11-dev libcsv-dev libzip-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
-test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 fp-compiler git libbenchmark-dev
-  libclang-rt-14-dev libgtest-dev libjemalloc2 libmimalloc2.0 libtcmalloc-minimal4 libxml2-dev
-  libxml2-utils locales-all pkgconf shellcheck)
+test_packages=(binutils clang-14 clang-format-14 clang-tidy-14 fp-compiler git hledger
+  libbenchmark-dev libclang-rt-14-dev libgtest-dev libjemalloc2 libmimalloc2.0
+  libtcmalloc-minimal4 libxml2-dev libxml2-utils locales-all pkgconf python3 shellcheck)
 # shellcheck disable=SC2034
-bench_packages=(libbenchmark-dev libktoblzcheck1-dev libxml2-dev python3 valgrind)
+bench_packages=(libbenchmark-dev libktoblzcheck1-dev libpugixml-dev libxml2-dev python3 valgrind)
 # shellcheck disable=SC2034
 document_packages=(git pkgconf python3 python3-jsonschema)
 # shellcheck disable=SC2034
-windows_library_packages=(dpkg-dev g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
-  libcli11-dev nlohmann-json3-dev)
+windows_library_packages=(cmake dpkg-dev g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
+  libcli11-dev libz-mingw-w64-dev nlohmann-json3-dev)
 # shellcheck disable=SC2034
 windows_packages=(binutils-mingw-w64-i686 binutils-mingw-w64-x86-64 g++-mingw-w64-i686-posix
   g++-mingw-w64-x86-64-posix googletest libgtest-dev libxml2-dev libxml2-utils
-  wine64)
+  python3 wine64)
 # Those of other processors, for the tests under qemu-user.
 # shellcheck disable=SC2034
 processor_packages=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-i686-linux-gnu

@@ -1,4 +1,4 @@
-/* Prints the entries of a statement file: statements FILE */
+/* Prints the entries of a statement file, MT940 or CAMT: statements FILE */
 #include <stdio.h>
 #include <stdlib.h>
 
@@ -17,7 +17,7 @@ int main(int argument_count, char **arguments) {
   const tivex_stmt_t *statement;
   const char *const file = argument_count > 1 ? arguments[1] : "statement.sta";
   tivex_stmt_parser_t *parser = tivex_stmt_parser_new();
-  if (!tivex_stmt_parser_load(parser, TIVEX_FORMAT_MT940, file)) {
+  if (!tivex_stmt_parser_load(parser, TIVEX_FORMAT_DETECT, file)) {
     fprintf(stderr, "%s: %s\n", file, tivex_stmt_parser_getError(parser));
     tivex_stmt_parser_free(parser);
     return EXIT_FAILURE;

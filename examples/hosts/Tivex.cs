@@ -50,6 +50,9 @@ namespace Tivex
         public const int TIVEX_CONVERSION_ACCOUNT_REFUSED = 50;
 
         public const int TIVEX_FORMAT_MT940 = 1;
+        public const int TIVEX_FORMAT_DETECT = 1000;
+        public const int TIVEX_FORMAT_CAMT = 1053;
+        public const int TIVEX_FORMAT_MT940_DIALECTS = 1940;
 
         // A list of these ends with a null key.
         [StructLayout(LayoutKind.Sequential)]
@@ -148,6 +151,8 @@ namespace Tivex
         public static extern IntPtr tivex_stmt_parser_getStatement(ParserHandle parser);
         [DllImport(Library, CallingConvention = C)]
         public static extern IntPtr tivex_stmt_parser_getError(ParserHandle parser);
+        [DllImport(Library, CallingConvention = C)]
+        public static extern uint tivex_stmt_parser_getPending(ParserHandle parser);
         [DllImport(Library, CallingConvention = C)]
         public static extern void tivex_stmt_parser_free(IntPtr parser);
 
@@ -301,7 +306,8 @@ namespace Tivex
         public string TypeCode, CustomerRef, BankRef, BookingText, Primanota;
         public int Gvc, TextKeyExt;
         public string BankCode, AccountNo, Name;
-        public string Purpose, Eref, Kref, Mref, Cred, Debt, Purp, Coam, Oamt, Svwz, Abwa, Abwe;
+        public string Purpose, Eref, Kref, Mref, Cred, Debt, Purp, Coam, Oamt, Svwz, Abwa, Abwe,
+            FullName, ReturnReason;
     }
 
     // tivex_stmt_t.
@@ -365,6 +371,8 @@ namespace Tivex
                 Svwz = from.Text(), Abwa = from.Text(), Abwe = from.Text()
             };
             next = from.Pointer();
+            entry.FullName = from.Text();
+            entry.ReturnReason = from.Text();
             return entry;
         }
     }

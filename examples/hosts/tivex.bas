@@ -47,6 +47,9 @@ Public Const TIVEX_CONVERSION_BANK_CODE_REPLACED As Byte = 15
 Public Const TIVEX_CONVERSION_ACCOUNT_REFUSED As Byte = 50
 
 Public Const TIVEX_FORMAT_MT940 As Long = 1
+Public Const TIVEX_FORMAT_DETECT As Long = 1000
+Public Const TIVEX_FORMAT_CAMT As Long = 1053
+Public Const TIVEX_FORMAT_MT940_DIALECTS As Long = 1940
 
 ' Where the members of the records stand in 64-bit Windows, in bytes. Marked with *: the
 ' address of a text or of a record; with [n]: a text of up to n bytes that stands there.
@@ -103,6 +106,8 @@ Public Enum TivexEntry
     TxAbwa = 320             ' *
     TxAbwe = 328             ' *
     TxNext = 336             ' *
+    TxFullName = 344         ' *
+    TxReturnReason = 352     ' *
 End Enum
 
 Public Declare PtrSafe Function tivex_init Lib "tivex.dll" (ByVal selected As Long, ByVal value As LongPtr) As Long
@@ -144,6 +149,7 @@ Public Declare PtrSafe Function tivex_stmt_parser_new Lib "tivex.dll" () As Long
 Public Declare PtrSafe Function tivex_stmt_parser_load Lib "tivex.dll" (ByVal parser As LongPtr, ByVal format As Long, ByVal path As String) As Long
 Public Declare PtrSafe Function tivex_stmt_parser_getStatement Lib "tivex.dll" (ByVal parser As LongPtr) As LongPtr
 Public Declare PtrSafe Function tivex_stmt_parser_getError Lib "tivex.dll" (ByVal parser As LongPtr) As LongPtr
+Public Declare PtrSafe Function tivex_stmt_parser_getPending Lib "tivex.dll" (ByVal parser As LongPtr) As Long
 Public Declare PtrSafe Sub tivex_stmt_parser_free Lib "tivex.dll" (ByVal parser As LongPtr)
 
 ' free() of the C run-time that the library is linked to.

@@ -1,12 +1,11 @@
 #include "statements/load_file.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <utility>
 
 #include "platform/input_file.h"
 #include "platform/platform.h"
-#include "statements/mt940.h"
+#include "statements/formats.h"
 
 namespace tivex {
 
@@ -18,27 +17,12 @@ int fail_with_reason(statement_parser& parser, const char* what, int error) {
   return parser.fail("%s: %s", what, platform::error_text(error, buffer, sizeof buffer));
 }
 
-// A block of the C run-time for the text of a file.
-struct text_block {
-  explicit text_block(std::size_t capacity)
-      : size(capacity), text(static_cast<char*>(std::malloc(capacity))) {}
-  text_block(const text_block&) = delete;
-  text_block& operator=(const text_block&) = delete;
-  ~text_block() {
-    if (text != nullptr) platform::wipe(text, size);
-    std::free(text);
-  }
-
-  std::size_t size;
-  char* text;
-};
-
 // Reads up to `wanted` bytes; fewer when the file has become shorter. Returns false
 // on a failure.
-bool read_whole(const platform::input_file& file, char* text, std::size_t wanted) {
+bool read_whole(const platform::input_file& file, text_block& block, std::size_t wanted) {
   std::size_t arrived = 0;
   while (arrived < wanted) {
-    const std::ptrdiff_t count = file.read(text + arrived, wanted - arrived);
+    const std::ptrdiff_t count = file.read(block.text + arrived, wanted - arrived);
     if (count == 0) break;
     if (count > 0) {
       arrived += static_cast<std::size_t>(count);
@@ -46,7 +30,8 @@ bool read_whole(const platform::input_file& file, char* text, std::size_t wanted
       return false;
     }
   }
-  text[arrived] = '\0';
+  block.text[arrived] = '\0';
+  block.length = arrived;
   return true;
 }
 
@@ -67,10 +52,10 @@ int load_file(statement_parser& parser, const char* path) {
     return parser.fail("Failed to allocate %lli bytes", static_cast<long long>(size));
   }
   platform::prefer_large_pages(block.text, block.size);
-  if (!read_whole(file, block.text, wanted)) {
+  if (!read_whole(file, block, wanted)) {
     return fail_with_reason(parser, "Error while reading from file", errno);
   }
-  if (mt940_parse(parser, block.text) != 1) return 0;
+  if (find_format(parser.format)(parser, block) != 1) return 0;
   parser.mt940->text = std::exchange(block.text, nullptr);
   parser.mt940->size = block.size;
   return 1;

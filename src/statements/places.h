@@ -46,6 +46,16 @@ inline std::uint64_t places_in_stretch(const char* from, char character) {
 
 #endif
 
+// The first place of either character; the end when there is none.
+inline char* find_either(char one, char other, char* from, const char* end) {
+  for (; end - from >= static_cast<std::ptrdiff_t>(stretch_length); from += stretch_length) {
+    const auto places = places_in_stretch(from, one) | places_in_stretch(from, other);
+    if (places != 0) return from + std::countr_zero(places) / bits_of_place;
+  }
+  while (from < end && *from != one && *from != other) ++from;
+  return from;
+}
+
 // Calls `visit` with each place of a character until it returns false. Returns whether
 // it never did.
 template <class visitor>

@@ -1,5 +1,6 @@
 #include "statements/record_blocks.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "platform/platform.h"
@@ -19,16 +20,16 @@ constexpr std::size_t allocator_overhead = 32;
 }  // namespace
 
 // Few blocks for many records, and little more memory than needed for few records.
-bool record_blocks::add_block() {
+bool record_blocks::add_block(std::size_t room) {
   std::size_t whole = smallest_block;
   if (newest_ != nullptr) {
     const std::size_t before = newest_->capacity + sizeof(block) + allocator_overhead;
     whole = before < doubled_up_to ? 2 * before : large_block;
   }
-  const std::size_t size = whole - allocator_overhead;
+  const std::size_t size = std::max(whole - allocator_overhead, room + sizeof(block));
   void* const memory = std::calloc(1, size);
   if (memory == nullptr) return false;
-  if (whole == large_block) platform::prefer_large_pages(memory, size);
+  if (size >= large_block - allocator_overhead) platform::prefer_large_pages(memory, size);
   newest_ = new (memory) block{newest_, size - sizeof(block), 0};
   return true;
 }

@@ -1,4 +1,5 @@
-// The statements and entries of a parser, one behind the other in a few blocks.
+// The statements and entries of a parser, one behind the other in a few blocks, and texts
+// that have no place in the file's.
 #pragma once
 
 #include <cstddef>
@@ -23,6 +24,12 @@ class record_blocks {
     return static_cast<record*>(place);
   }
 
+  // Room for a text of this size, which stays like a record; null when memory is exhausted.
+  char* make_text(std::size_t size) {
+    constexpr std::size_t whole = alignof(block);
+    return static_cast<char*>(room_for((size + whole - 1) / whole * whole));
+  }
+
   // Overwrites the records with zeros and releases them.
   void release();
 
@@ -39,13 +46,13 @@ class record_blocks {
 
   void* room_for(std::size_t size) {
     if (newest_ == nullptr || newest_->capacity - newest_->used < size) {
-      if (!add_block()) return nullptr;
+      if (!add_block(size)) return nullptr;
     }
     char* const place = reinterpret_cast<char*>(newest_ + 1) + newest_->used;
     newest_->used += size;
     return place;
   }
-  bool add_block();
+  bool add_block(std::size_t room);
 
   block* newest_ = nullptr;
 };

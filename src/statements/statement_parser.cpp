@@ -6,6 +6,7 @@
 #include "core/wiped_object.h"
 #include "platform/float_traps.h"
 #include "platform/input_file.h"
+#include "statements/formats.h"
 #include "statements/load_file.h"
 
 namespace tivex {
@@ -22,7 +23,7 @@ namespace {
 int load(statement_parser& parser, std::int32_t format, const char* path) {
   if (parser.format != 0) return parser.fail("%s", "Parser already used");
   parser.format = format;
-  if (format != TIVEX_FORMAT_MT940) return parser.fail("%s", "Format not (yet) supported");
+  if (find_format(format) == nullptr) return parser.fail("%s", "Format not (yet) supported");
   parser.mt940 = make_wiped<mt940_state>().release();
   if (parser.mt940 == nullptr) {
     char buffer[128];
@@ -52,6 +53,10 @@ tivex_stmt_t* tivex_stmt_parser_getStatement(tivex_stmt_parser_t* parser) {
 
 const char* tivex_stmt_parser_getError(const tivex_stmt_parser_t* parser) {
   return parser == nullptr ? "invalid tivex_stmt_parser_t handle" : parser->error;
+}
+
+unsigned tivex_stmt_parser_getPending(const tivex_stmt_parser_t* parser) {
+  return parser == nullptr ? 0 : parser->pending;
 }
 
 void tivex_stmt_parser_free(tivex_stmt_parser_t* parser) { tivex::destroy_wiped(parser); }

@@ -28,11 +28,29 @@ struct statement_parser {
   tivex_stmt_t* first;
   tivex_stmt_t* last;
   record_blocks records;
+  unsigned pending;  // entries left out, which are not booked yet
 
   statement_parser() = default;
   ~statement_parser();
   statement_parser(const statement_parser&) = delete;
   statement_parser& operator=(const statement_parser&) = delete;
+
+  // Releases every record, for they would point into a text that is not kept.
+  void drop_statements() {
+    records.release();
+    first = nullptr;
+    last = nullptr;
+    pending = 0;
+  }
+
+  // A new statement behind the others, or null when memory is exhausted.
+  tivex_stmt_t* append_statement() {
+    auto* const statement = records.make<tivex_stmt_t>();
+    if (statement == nullptr) return nullptr;
+    (last == nullptr ? first : last->next) = statement;
+    last = statement;
+    return statement;
+  }
 
   // Notes the reason of a failure and gives back the result of one.
   template <class... values>

@@ -107,7 +107,8 @@ static void check_order_of_members(void) {
       offsetof(tivex_stmt_tx_t, purp),         offsetof(tivex_stmt_tx_t, coam),
       offsetof(tivex_stmt_tx_t, oamt),         offsetof(tivex_stmt_tx_t, svwz),
       offsetof(tivex_stmt_tx_t, abwa),         offsetof(tivex_stmt_tx_t, abwe),
-      offsetof(tivex_stmt_tx_t, next)};
+      offsetof(tivex_stmt_tx_t, next),         offsetof(tivex_stmt_tx_t, full_name),
+      offsetof(tivex_stmt_tx_t, return_reason)};
   const size_t bank[] = {offsetof(tivex_bank_info_t, name),    offsetof(tivex_bank_info_t, postcode),
                          offsetof(tivex_bank_info_t, city),    offsetof(tivex_bank_info_t, country),
                          offsetof(tivex_bank_info_t, bic),     offsetof(tivex_bank_info_t, flags)};
@@ -124,7 +125,7 @@ static void check_order_of_members(void) {
 #if defined(_WIN32)
   /* Hosts in other languages declare the records by hand. */
   expect(sizeof(tivex_stmt_t) == (sizeof(void *) == 4 ? 128 : 144), "the size of a statement");
-  expect(sizeof(tivex_stmt_tx_t) == (sizeof(void *) == 4 ? 272 : 344), "the size of an entry");
+  expect(sizeof(tivex_stmt_tx_t) == (sizeof(void *) == 4 ? 280 : 360), "the size of an entry");
   expect(sizeof(tivex_bank_info_t) == (sizeof(void *) == 4 ? 24 : 48), "the size of a bank");
 #endif
   expect(sizeof((tivex_stmt_tx_t *)NULL)->account_no == 35, "room for an IBAN of 34 characters");

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/number_scanner.h"
-#include "statements/mt940_dates.h"
+#include "statements/mt940/mt940_dates.h"
 #include "transactions/date_text.h"
 
 namespace {

@@ -1,8 +1,10 @@
 #include "statements/statement_dump.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <iterator>
 
 namespace {
 
@@ -26,7 +28,7 @@ class field_lines {
   }
   void add(const char* name, double number) {
     const bool plain_zero = number == 0 && !std::signbit(number);
-    if (!plain_zero) add_value(name, std::isnan(number) ? "nan" : printed("%.17g", number));
+    if (!plain_zero) add_value(name, std::isnan(number) ? "nan" : digits_of(number));
   }
   void add(const char* name, const std::tm& date) {
     std::tm rest = date;
@@ -44,6 +46,13 @@ class field_lines {
     char text[40];
     std::snprintf(text, sizeof text, format, value);
     return text;
+  }
+  // As "%.17g" prints it where no locale is set.
+  static std::string digits_of(double number) {
+    char text[40];
+    return {text,
+            std::to_chars(std::begin(text), std::end(text), number, std::chars_format::general, 17)
+                .ptr};
   }
   void add_value(const char* name, const std::string& value) {
     if (!value.empty()) lines_ += prefix_ + name + '=' + value + '\n';
@@ -82,6 +91,9 @@ void add_entry(field_lines lines, const tivex_stmt_tx_t& record) {
   ADD(svwz);
   ADD(abwa);
   ADD(abwe);
+  // Mostly it is what stands in the name.
+  if (record.full_name != nullptr && record.full_name != std::string(record.name)) ADD(full_name);
+  ADD(return_reason);
 }
 
 void add_statement(field_lines lines, const tivex_stmt_t& record) {

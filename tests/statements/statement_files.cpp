@@ -11,12 +11,14 @@
 
 namespace fs = std::filesystem;
 
-std::string outcome_of(const fs::path& path) {
+std::string outcome_of(const fs::path& path, int format) {
   const parser_ptr parser = new_parser();
-  const int result = tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940,
-                                            path.empty() ? nullptr : path.string().c_str());
+  const int result =
+      tivex_stmt_parser_load(parser.get(), format, path.empty() ? nullptr : path.string().c_str());
   const std::string error = tivex_stmt_parser_getError(parser.get());
+  const unsigned pending = tivex_stmt_parser_getPending(parser.get());
   return "load=" + std::to_string(result) + '\n' + (error.empty() ? "" : "error=" + error + '\n') +
+         (pending == 0 ? "" : "pending=" + std::to_string(pending) + '\n') +
          dump_of(tivex_stmt_parser_getStatement(parser.get()));
 }
 

@@ -14,12 +14,13 @@ using parser_ptr = std::unique_ptr<tivex_stmt_parser_t, parser_deleter>;
 
 inline parser_ptr new_parser() { return parser_ptr(tivex_stmt_parser_new()); }
 
-inline int load(const parser_ptr& parser, const std::filesystem::path& path) {
-  return tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940, path.string().c_str());
+inline int load(const parser_ptr& parser, const std::filesystem::path& path,
+                int format = TIVEX_FORMAT_MT940) {
+  return tivex_stmt_parser_load(parser.get(), format, path.string().c_str());
 }
 
 // Result and error text of a load, and what was read. An empty path stands for none.
-std::string outcome_of(const std::filesystem::path& path);
+std::string outcome_of(const std::filesystem::path& path, int format = TIVEX_FORMAT_MT940);
 
 // A file that is there as long as the object lives.
 struct temporary_file {

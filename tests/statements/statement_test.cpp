@@ -8,8 +8,8 @@
 #include <set>
 
 #include "statements/load_file.h"
-#include "statements/mt940.h"
-#include "statements/mt940_text.h"
+#include "statements/mt940/mt940.h"
+#include "statements/mt940/mt940_text.h"
 #include "statements/statement_files.h"
 #include "support/runtime_control.h"
 

@@ -28,9 +28,12 @@ bool allocation_fails() {
   return true;
 }
 
-// What a test itself has left in released memory must not be found in a block.
-void* without_old_content(void* block) {
-  if (block != nullptr && !watched_text.empty()) std::memset(block, 0xA5, size_of_block(block));
+// What a test itself has left in released memory must not be found in a block, nor behind the
+// bytes that are in use.
+void* without_old_content(void* block, std::size_t used = 0) {
+  if (block != nullptr && !watched_text.empty()) {
+    std::memset(static_cast<char*>(block) + used, 0xA5, size_of_block(block) - used);
+  }
   return block;
 }
 
@@ -126,7 +129,8 @@ void* __wrap_malloc(std::size_t size) {
 }
 
 void* __wrap_calloc(std::size_t count, std::size_t size) {
-  return allocation_fails() ? nullptr : __real_calloc(count, size);
+  return allocation_fails() ? nullptr
+                            : without_old_content(__real_calloc(count, size), count * size);
 }
 
 void* __wrap_realloc(void* block, std::size_t size) {

@@ -57,6 +57,9 @@ const
   TIVEX_CONVERSION_ACCOUNT_REFUSED = 50;
 
   TIVEX_FORMAT_MT940 = 1;
+  TIVEX_FORMAT_DETECT = 1000;
+  TIVEX_FORMAT_CAMT = 1053;
+  TIVEX_FORMAT_MT940_DIALECTS = 1940;
 
 type
   { A message and a statement parser: only the library looks inside. }
@@ -132,6 +135,8 @@ type
     abwa: PAnsiChar;
     abwe: PAnsiChar;
     next: ptivex_stmt_tx_t;
+    full_name: PAnsiChar;
+    return_reason: PAnsiChar;
   end;
 
   ptivex_stmt_t = ^tivex_stmt_t;
@@ -205,6 +210,8 @@ function tivex_stmt_parser_load(parser: ptivex_stmt_parser_t; format: cint;
 function tivex_stmt_parser_getStatement(parser: ptivex_stmt_parser_t): ptivex_stmt_t; cdecl;
   external library_name;
 function tivex_stmt_parser_getError(parser: ptivex_stmt_parser_t): PAnsiChar; cdecl;
+  external library_name;
+function tivex_stmt_parser_getPending(parser: ptivex_stmt_parser_t): Cardinal; cdecl;
   external library_name;
 procedure tivex_stmt_parser_free(parser: ptivex_stmt_parser_t); cdecl; external library_name;
 

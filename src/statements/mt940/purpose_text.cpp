@@ -1,34 +1,11 @@
-#include "statements/purpose_text.h"
+#include "statements/mt940/purpose_text.h"
 
-#include <algorithm>
 #include <cstring>
-#include <iterator>
 
-#include "statements/mt940_text.h"
+#include "statements/mt940/purpose_keywords.h"
+#include "statements/text_steps.h"
 
 namespace tivex {
-
-namespace {
-
-constexpr std::size_t keyword_length = 5;
-
-struct keyword_row {
-  char* tivex_stmt_tx_t::*field;
-  char keyword[keyword_length + 1];
-  bool is_amount = false;  // its decimal comma becomes a point
-};
-
-// The most frequent ones stand in front.
-constexpr keyword_row keywords[] = {
-    {&tivex_stmt_tx_t::eref, "EREF+"},       {&tivex_stmt_tx_t::svwz, "SVWZ+"},
-    {&tivex_stmt_tx_t::mref, "MREF+"},       {&tivex_stmt_tx_t::cred, "CRED+"},
-    {&tivex_stmt_tx_t::kref, "KREF+"},       {&tivex_stmt_tx_t::abwa, "ABWA+"},
-    {&tivex_stmt_tx_t::abwe, "ABWE+"},       {&tivex_stmt_tx_t::purp, "PURP+"},
-    {&tivex_stmt_tx_t::coam, "COAM+", true}, {&tivex_stmt_tx_t::oamt, "OAMT+", true},
-    {&tivex_stmt_tx_t::debt, "DEBT+"},
-};
-
-}  // namespace
 
 void purpose_text::begin(text_field field, char* text, char* end) {
   entry_.*field = text;
@@ -38,13 +15,8 @@ void purpose_text::begin(text_field field, char* text, char* end) {
 }
 
 bool purpose_text::begin_keyword(char* content, char* end) {
-  if (end - content < static_cast<std::ptrdiff_t>(keyword_length)) return false;
-  if (content[keyword_length - 1] != '+') return false;
-  const auto* const row = std::find_if(
-      std::begin(keywords), std::end(keywords), [content](const keyword_row& candidate) {
-        return std::memcmp(content, candidate.keyword, keyword_length) == 0;
-      });
-  if (row == std::end(keywords)) return false;
+  const keyword_row* const row = find_keyword(content, end);
+  if (row == nullptr) return false;
   begin(row->field, content + keyword_length, end);
   if (row->is_amount) point_for_comma(content + keyword_length, end);
   return true;

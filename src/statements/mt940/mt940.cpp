@@ -1,8 +1,8 @@
-#include "statements/mt940.h"
+#include "statements/mt940/mt940.h"
 
 #include <cstring>
 
-#include "statements/mt940_lines.h"
+#include "statements/mt940/mt940_lines.h"
 
 namespace tivex {
 
@@ -92,10 +92,7 @@ int mt940_parse(statement_parser& parser, char* text) {
   if (text == nullptr || *text == '\0') return 0;
   mt940_progress progress(text, text + std::strlen(text), parser.records);
   if (read_statements(parser, progress)) return 1;
-  // The statements would point into a text that is not kept.
-  parser.records.release();
-  parser.first = nullptr;
-  parser.last = nullptr;
+  parser.drop_statements();
   return 0;
 }
 

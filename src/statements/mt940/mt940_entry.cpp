@@ -1,5 +1,6 @@
-#include "statements/mt940_dates.h"
-#include "statements/mt940_lines.h"
+#include "statements/append_entry.h"
+#include "statements/mt940/mt940_dates.h"
+#include "statements/mt940/mt940_lines.h"
 #include "transactions/decimal.h"
 #include "validation/ascii.h"
 
@@ -8,15 +9,6 @@ namespace tivex {
 namespace {
 
 constexpr std::size_t tag_length = 4;  // ":61:"
-
-// Null when memory is exhausted.
-tivex_stmt_tx_t* append_entry(record_blocks& records, tivex_stmt_t& statement) {
-  auto* const entry = records.make<tivex_stmt_tx_t>();
-  if (entry == nullptr) return nullptr;
-  (statement.last_tx == nullptr ? statement.first_tx : statement.last_tx->next) = entry;
-  statement.last_tx = entry;
-  return entry;
-}
 
 // Reads MMDD. The year is that of the value date, or its neighbour when the year
 // turns between the two dates. Nothing when there are no four digits.
@@ -61,6 +53,7 @@ void read_references(mt940_progress& progress, char* from) {
 line_outcome read_entry(mt940_progress& progress) {
   tivex_stmt_tx_t* const entry = append_entry(progress.records, *progress.statement);
   if (entry == nullptr) return line_outcome::no_memory;
+  entry->full_name = entry->name;
   progress.entry = entry;
 
   char* at = progress.at(tag_length);

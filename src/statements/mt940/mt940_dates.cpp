@@ -1,7 +1,7 @@
-#include "statements/mt940_dates.h"
+#include "statements/mt940/mt940_dates.h"
 
 #include "core/number_scanner.h"
-#include "statements/mt940_text.h"
+#include "statements/text_steps.h"
 
 namespace tivex {
 

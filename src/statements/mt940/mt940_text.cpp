@@ -1,14 +1,11 @@
-#include "statements/mt940_text.h"
+#include "statements/mt940/mt940_text.h"
 
 #include <cstring>
+#include <string_view>
+
+#include "statements/text_steps.h"
 
 namespace tivex {
-
-void point_for_comma(char* from, const char* to) {
-  auto* const comma =
-      static_cast<char*>(std::memchr(from, ',', static_cast<std::size_t>(to - from)));
-  if (comma != nullptr) *comma = '.';
-}
 
 char* next_character::find(char* from) {
   if (found_ != nullptr && from <= found_) {

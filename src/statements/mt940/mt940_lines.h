@@ -1,8 +1,9 @@
 // The lines of a statement: a tag, and what it says.
 #pragma once
 
-#include "statements/mt940_text.h"
+#include "statements/mt940/mt940_text.h"
 #include "statements/record_blocks.h"
+#include "statements/text_steps.h"
 #include "tivex.h"
 
 namespace tivex {

@@ -3,9 +3,9 @@
 #include <cstring>
 
 #include "core/number_scanner.h"
-#include "statements/mt940_lines.h"
+#include "statements/mt940/mt940_lines.h"
+#include "statements/mt940/purpose_text.h"
 #include "statements/places.h"
-#include "statements/purpose_text.h"
 #include "validation/ascii.h"
 
 namespace tivex {

@@ -1,10 +1,10 @@
-#include "statements/mt940_lines.h"
+#include "statements/mt940/mt940_lines.h"
 
 #include <algorithm>
 #include <cstddef>
 
 #include "core/number_scanner.h"
-#include "statements/mt940_dates.h"
+#include "statements/mt940/mt940_dates.h"
 #include "transactions/decimal.h"
 
 namespace tivex {
