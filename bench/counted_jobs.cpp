@@ -94,17 +94,31 @@ void write_strictly() {
   write_message();
 }
 
-void take_statements() {
-  const std::string statement = whole_file(TIVEX_EXAMPLES "/statement.sta");
+void take_file(const std::string& text) {
   char name[] = "/tmp/tivex_counted_XXXXXX";
   close(mkstemp(name));
   path = name;
-  std::ofstream file(path, std::ios::binary);
-  for (int round = 0; round < 200; ++round) file << statement;
+  std::ofstream(path, std::ios::binary) << text;
 }
+void take_statements() {
+  const std::string statement = whole_file(TIVEX_EXAMPLES "/statement.sta");
+  std::string statements;
+  for (int round = 0; round < 200; ++round) statements += statement;
+  take_file(statements);
+}
+// Its statements many times.
+void take_camt() {
+  const std::string document = whole_file(TIVEX_TEST_DATA "/statements/camt_053.xml");
+  const std::size_t first = document.find("<Stmt>");
+  const std::size_t behind = document.rfind("</Stmt>") + std::string_view("</Stmt>").size();
+  std::string statements;
+  for (int round = 0; round < 200; ++round) statements += document.substr(first, behind - first);
+  take_file(document.substr(0, first) + statements + document.substr(behind));
+}
+template <int format>
 void read_statements() {
   tivex_stmt_parser_t* const parser = tivex_stmt_parser_new();
-  result = tivex_stmt_parser_load(parser, TIVEX_FORMAT_MT940, path.c_str());
+  result = tivex_stmt_parser_load(parser, format, path.c_str());
   tivex_stmt_parser_free(parser);
 }
 
@@ -119,7 +133,9 @@ constexpr job jobs[] = {
     {"write_transfers", take_transfers, write_message},
     {"write_transfers_strictly", take_transfers, write_strictly},
     {"write_debits", take_debits, write_message},
-    {"read_statements", take_statements, read_statements},
+    {"read_statements", take_statements, read_statements<TIVEX_FORMAT_MT940>},
+    {"read_dialects", take_statements, read_statements<TIVEX_FORMAT_MT940_DIALECTS>},
+    {"read_camt", take_camt, read_statements<TIVEX_FORMAT_CAMT>},
 };
 
 }  // namespace

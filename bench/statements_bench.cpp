@@ -3,27 +3,18 @@
 // the measure.
 
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "peak_memory.h"
+#include "statement_file.h"
 #include "tivex.h"
 
 namespace {
-
-std::string repeated(const std::string& part, std::size_t size) {
-  std::string text;
-  text.reserve(size + part.size());
-  while (text.size() < size) text += part;
-  return text;
-}
 
 const std::string head =
     "\r\n:20:STARTUMSE\r\n:25:10010010/0000012345\r\n:28C:00001/001\r\n"
@@ -85,24 +76,38 @@ std::string one_field(std::size_t size) {
   return head + entry + "?60" + repeated("a word, ", size) + tail + "\r\n";
 }
 
-struct statement_file {
-  std::string path;
-  explicit statement_file(const std::string& text) {
-    char name[] = "/tmp/tivex_bench_XXXXXX";
-    const int file = mkstemp(name);
-    path = name;
-    std::ofstream(path, std::ios::binary) << text;
-    close(file);
-  }
-  ~statement_file() { std::remove(path.c_str()); }
-};
+// What dialects have beside that.
+std::string ordinary_words(std::size_t size) {
+  const std::string words =
+      "\r\n:61:2611021102DR12,34NTRFEREF//B123\r\n/TRCD/01016/\r\n:86:/EREF/2026-11-0001//MARF/M-4"
+      "711//CSID/NL98ZZZ09999999999//CNTP/NL11BAN\r\nK0123456789/BANKNL2A/ENERGIE NOORD BV/UTRECHT"
+      "///REMI/USTD//Stroo\r\nm november 2026 contract 4711//PURP/CD/OTHR//";
+  return repeated(head + repeated(words, 20 * words.size()) + tail, size) + "\r\n";
+}
+std::string unknown_words(std::size_t size) {
+  return head + entry + "\r\n:86:/REMI/" + repeated("/AB/c/REMI/d//", size) + tail + "\r\n";
+}
+std::string keywords_again(std::size_t size) {
+  return head + entry + repeated("?20EREF+a?21KREF+b", size) + tail + "\r\n";
+}
+std::string information_again(std::size_t size) {
+  return head + entry + repeated("\r\n:86:166?20SVWZ+a?21b", size) + tail + "\r\n";
+}
+std::string dashes(std::size_t size) {
+  const std::string blank_lines = repeated("\r\n  ", 400);
+  return head + entry + repeated("\r\n-a\r\n-b" + blank_lines, size) + tail + "\r\n";
+}
+std::string marks_of_entries(std::size_t size) {
+  return head + "\r\n:61:261102" + repeated("CDRCRD      ", size / 2) +
+         repeated("\r\n:61:261102C D C", size / 2) + tail + "\r\n";
+}
 
 using parser_ptr = std::unique_ptr<tivex_stmt_parser_t, decltype(&tivex_stmt_parser_free)>;
 
 // Null when the file cannot be read.
-parser_ptr read(const statement_file& file) {
+parser_ptr read(const statement_file& file, int format) {
   parser_ptr parser(tivex_stmt_parser_new(), tivex_stmt_parser_free);
-  const int read = tivex_stmt_parser_load(parser.get(), TIVEX_FORMAT_MT940, file.path.c_str());
+  const int read = tivex_stmt_parser_load(parser.get(), format, file.path.c_str());
   return read == 1 ? std::move(parser) : parser_ptr(nullptr, tivex_stmt_parser_free);
 }
 
@@ -117,28 +122,37 @@ std::size_t size_of_records(const parser_ptr& parser) {
   return size;
 }
 
-void read_statements(benchmark::State& state, std::string (*shape)(std::size_t)) {
+void read_format(benchmark::State& state, int format, std::string (*shape)(std::size_t)) {
   const auto size = static_cast<std::size_t>(state.range(0)) << 20;
   const statement_file file(shape(size));
   {
     // Besides, a virtual machine's host may take far longer to give the memory than it
     // takes to read the file.
     const peak_memory peak;
-    const parser_ptr parser = read(file);
+    const parser_ptr parser = read(file, format);
     state.counters["peak_to_need"] =
         peak.bytes() / static_cast<double>(size_of_records(parser) + size);
   }
   for (auto _ : state) {
-    if (!read(file)) state.SkipWithError("the file was not read");
+    if (!read(file, format)) state.SkipWithError("the file was not read");
   }
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(size));
 }
 
-#define READ(shape)                                \
-  BENCHMARK_CAPTURE(read_statements, shape, shape) \
-      ->RangeMultiplier(10)                        \
-      ->Range(1, 100)                              \
+void read_statements(benchmark::State& state, std::string (*shape)(std::size_t)) {
+  read_format(state, TIVEX_FORMAT_MT940, shape);
+}
+
+void read_dialects(benchmark::State& state, std::string (*shape)(std::size_t)) {
+  read_format(state, TIVEX_FORMAT_MT940_DIALECTS, shape);
+}
+
+#define READ_AS(format, shape)            \
+  BENCHMARK_CAPTURE(format, shape, shape) \
+      ->RangeMultiplier(10)               \
+      ->Range(1, 100)                     \
       ->Unit(benchmark::kMillisecond)
+#define READ(shape) READ_AS(read_statements, shape)
 READ(ordinary);
 READ(bare_line_ends);
 READ(question_marks);
@@ -152,6 +166,21 @@ READ(numbers_behind_lines);
 READ(number_behind_blanks);
 READ(balances_without_amount);
 READ(one_field);
+
+#define READ_DIALECT(shape) READ_AS(read_dialects, shape)
+READ_DIALECT(ordinary);
+READ_DIALECT(ordinary_words);
+READ_DIALECT(bare_line_ends);
+READ_DIALECT(question_marks);
+READ_DIALECT(subfield_marks);
+READ_DIALECT(one_field);
+READ_DIALECT(unknown_words);
+READ_DIALECT(keywords_again);
+READ_DIALECT(information_again);
+READ_DIALECT(dashes);
+READ_DIALECT(marks_of_entries);
+READ_DIALECT(entries_without_type);
+READ_DIALECT(statements_without_type);
 
 void memcpy_of_statements(benchmark::State& state) {
   const std::string text = ordinary(static_cast<std::size_t>(state.range(0)) << 20);
