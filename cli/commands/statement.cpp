@@ -5,10 +5,13 @@
 #include <CLI/CLI.hpp>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/exit_status.h"
+#include "statements/hledger_journal.h"
+#include "statements/hledger_texts.h"
 #include "statements/statement_csv.h"
 #include "statements/statement_file.h"
 #include "statements/statement_json.h"
@@ -20,14 +23,19 @@ namespace tivex_program {
 namespace {
 
 constexpr const char* example =
-    R"(Entries stand under their booking date. R marks a reversal, which takes its
+    R"(Read are camt.052, camt.053 and camt.054 of version 02 and later, MT940 and
+MT942 as banks write them, and ZIP archives of such files; what a file is, its
+content tells.
+
+Entries stand under their booking date. R marks a reversal, which takes its
 amount back; the table shows amounts by what they do to the balance, JSON and
 CSV as the file has them.
 
 Examples:
-  tivex statement november.sta
-  tivex statement --json november.sta
-  tivex statement --format csv --from 2026-11-16 --to 2026-11-30 *.sta >out.csv)";
+  tivex statement november.xml
+  tivex statement --json november.zip
+  tivex statement --format csv --from 2026-11-16 --to 2026-11-30 *.sta >out.csv
+  tivex statement --format hledger --account assets:bank may.xml >>my.journal)";
 
 struct statement_format {
   void (*begin)();
@@ -39,12 +47,16 @@ struct statement_format {
 // As the option --format names them.
 const std::map<std::string, statement_format> formats = {
     {"csv", {begin_statement_csv, print_statement_csv, end_statement_csv, false}},
+    {"hledger", {nullptr, nullptr, nullptr, false}},  // a journal of its own
     {"json", {begin_statement_json, print_statement_json, end_statement_json, false}},
     {"table", {begin_statement_table, print_statement_table, end_statement_table, true}}};
+
+constexpr const char* journal_format = "hledger";
 
 struct statement_query {
   std::vector<std::string> files;
   std::string format = "table";
+  std::string account;
   std::string from;
   std::string to;
   std::string encoding = "auto";
@@ -54,37 +66,60 @@ struct statement_query {
   statement_period period;
 };
 
+std::string pending_note(unsigned count) {
+  if (count == 0) return {};
+  return std::to_string(count) + (count == 1 ? " entry is" : " entries are") +
+         " not booked yet and left out";
+}
+
 // Prints the statements of many files and keeps in mind whether all went well.
 class statement_printer {
  public:
   explicit statement_printer(const statement_query& query)
       : query_(query),
         format_(formats.at(query.format)),
-        encoding_(text_encodings.at(query.encoding)) {}
+        encoding_(text_encodings.at(query.encoding)) {
+    if (query.format == journal_format) journal_.emplace(query.account);
+  }
 
   bool print_all() {
-    format_.begin();
-    for (const std::string& name : query_.files) print_file(name);
-    format_.end();
+    if (!journal_) format_.begin();
+    for (const std::string& name : query_.files) {
+      read_statement_files(name, query_.strict,
+                           [this](const statement_file& file) { print_file(file); });
+    }
+    if (!journal_) format_.end();
     return good_;
   }
 
  private:
-  void print_file(const std::string& name) {
-    const statement_file file = read_statement_file(name, query_.strict);
-    if (!file.note.empty() && !query_.quiet) print_note(name + ": " + file.note);
-    if (!file.error.empty()) return fail(name + ": " + file.error);
-    // In a file of UTF-8 a text that is none has been cut within a character.
-    const text_encoding encoding =
-        encoding_ == text_encoding::by_content && file.is_utf8 ? text_encoding::utf8 : encoding_;
+  void print_file(const statement_file& file) {
+    note(file, file.note);
+    if (!file.error.empty()) return fail(file.name + ": " + file.error);
+    note(file, pending_note(tivex_stmt_parser_getPending(file.parser.get())));
     for (const tivex_stmt_t* statement = tivex_stmt_parser_getStatement(file.parser.get());
          statement != nullptr; statement = statement->next) {
-      print_statement({name, *statement, query_.period, encoding, balance_fault(*statement)});
+      print_statement(
+          {file.name, *statement, query_.period, encoding_of(file), balance_fault(*statement)});
     }
   }
 
+  void note(const statement_file& file, const std::string& text) const {
+    if (!text.empty() && !query_.quiet) print_note(file.name + ": " + text);
+  }
+
+  text_encoding encoding_of(const statement_file& file) const {
+    if (file.is_xml) return text_encoding::utf8;
+    // In a file of UTF-8 a text that is none has been cut within a character.
+    return encoding_ == text_encoding::by_content && file.is_utf8 ? text_encoding::utf8 : encoding_;
+  }
+
   void print_statement(const statement_view& view) {
-    format_.print(view, first_);
+    if (!journal_) {
+      format_.print(view, first_);
+    } else if (const std::string fault = journal_->print(view); !fault.empty()) {
+      fail(view.file + ": statement " + number_of(view.statement) + ": " + fault);
+    }
     first_ = false;
     if (view.balance_fault.empty()) return;
     good_ = false;
@@ -100,6 +135,7 @@ class statement_printer {
   const statement_query& query_;
   const statement_format& format_;
   text_encoding encoding_;
+  std::optional<hledger_journal> journal_;
   bool first_ = true;
   bool good_ = true;
 };
@@ -138,35 +174,62 @@ void choose_json(statement_query& query, const CLI::Option& format) {
   query.format = "json";
 }
 
+// An account of the journal is named where there is one, and nowhere else.
+void check_account(const statement_query& query, const CLI::Option& account) {
+  const bool journal = query.format == journal_format;
+  if (journal && account.count() == 0) {
+    throw CLI::ValidationError("--format hledger", "needs --account");
+  }
+  if (!journal && account.count() > 0) {
+    throw CLI::ValidationError("--account", "is for --format hledger only");
+  }
+}
+
+std::string journal_account_fault(const std::string& name) {
+  const std::string fault = account_name_fault(name);
+  return fault.empty() ? "" : "'" + printable(name) + "' " + fault;
+}
+
 }  // namespace
 
 void add_statement(CLI::App& program, int& exit_status) {
   CLI::App* const command =
-      program.add_subcommand("statement", "Print bank statements of SWIFT MT940 files");
+      program.add_subcommand("statement", "Print bank statements: CAMT and MT940 files");
   const auto query = std::make_shared<statement_query>();
   CLI::Option* const format =
-      command->add_option("--format", query->format, "What to print: table, json or csv")
+      command
+          ->add_option("--format", query->format,
+                       "What to print: table, json, csv, or the journal of hledger")
           ->type_name("NAME")
           ->check(CLI::IsMember(formats).description(""))
           ->capture_default_str();
   command->add_flag("--json", query->json, "The same as --format json");
+  CLI::Option* const account =
+      command
+          ->add_option("--account", query->account,
+                       "For hledger: the account that the statements are of, such as assets:bank")
+          ->type_name("NAME")
+          ->check(CLI::Validator(journal_account_fault, ""));
   add_date_option(*command, "--from", query->from, "First date of entries, YYYY-MM-DD");
   add_date_option(*command, "--to", query->to, "Last date of entries");
   command
       ->add_option("--encoding", query->encoding,
-                   "How to read texts: utf-8, latin1, windows-1252, or auto: as UTF-8, and as "
-                   "latin1 what is none")
+                   "How to read texts of MT940: utf-8, latin1, windows-1252, or auto: as UTF-8, "
+                   "and as latin1 what is none")
       ->type_name("NAME")
       ->check(CLI::IsMember(text_encodings).description(""))
       ->capture_default_str();
-  command->add_flag("--strict", query->strict, "Do not put line ends right");
+  command->add_flag("--strict", query->strict, "Read MT940 in its prescribed form only");
   command->add_flag("--quiet", query->quiet, "Print no notes on standard error, errors only");
-  command->add_option("FILE", query->files, "MT940 files; - for standard input")
+  command
+      ->add_option("FILE", query->files,
+                   "Statement files and ZIP archives of them; - for standard input")
       ->type_name("")
       ->required();
   command->footer(example);
-  command->callback([&exit_status, query, format] {
+  command->callback([&exit_status, query, format, account] {
     choose_json(*query, *format);
+    check_account(*query, *account);
     query->period = period_of(*query);
     exit_status = run(*query);
   });

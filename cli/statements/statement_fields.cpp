@@ -68,6 +68,8 @@ constexpr record_field<entry> fields_of_entry[] = {
     {"svwz", value_of<&entry::svwz>},
     {"abwa", value_of<&entry::abwa>},
     {"abwe", value_of<&entry::abwe>},
+    {"full_name", value_of<&entry::full_name>},
+    {"return_reason", value_of<&entry::return_reason>},
 };
 
 }  // namespace

@@ -43,10 +43,10 @@ std::string name_of(const statement_view& view, const tivex_stmt_tx_t& entry) {
 }
 
 std::string text_of(const statement_view& view, const tivex_stmt_tx_t& entry) {
-  for (const char* const text : {entry.svwz, entry.purpose, entry.booking_text}) {
-    if (text != nullptr && *text != '\0') return one_line(text, view.encoding);
-  }
-  return {};
+  std::string text = one_line(remittance_of(entry), view.encoding);
+  if (entry.return_reason == nullptr) return text;
+  return text + (text.empty() ? "returned: " : ", returned: ") +
+         one_line(entry.return_reason, view.encoding);
 }
 
 // What the columns of a statement need, and what its entries add up to.

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "files/text_encoding.h"
 #include "statements/statement_balance.h"
@@ -33,6 +34,14 @@ void for_each_entry(const statement_view& view, const function& take) {
        entry = entry->next) {
     if (view.period.holds(entry_date(*entry))) take(*entry);
   }
+}
+
+// What the other side says, else what the bank does.
+inline std::string_view remittance_of(const tivex_stmt_tx_t& entry) {
+  for (const char* const text : {entry.svwz, entry.purpose, entry.booking_text}) {
+    if (text != nullptr && *text != '\0') return text;
+  }
+  return {};
 }
 
 inline std::string currency_of(const tivex_stmt_t& statement) {

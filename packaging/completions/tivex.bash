@@ -79,7 +79,8 @@ _tivex() {
     'tivex account check --input') _tivex_offer_files ;;
     'tivex account check --column') : ;;
     'tivex account check --delimiter') _tivex_offer ',' '\;' 'tab' ;;
-    'tivex statement --format') _tivex_offer 'csv' 'json' 'table' ;;
+    'tivex statement --format') _tivex_offer 'csv' 'hledger' 'json' 'table' ;;
+    'tivex statement --account') : ;;
     'tivex statement --from') : ;;
     'tivex statement --to') : ;;
     'tivex statement --encoding') _tivex_offer 'auto' 'latin1' 'utf-8' 'windows-1252' ;;
@@ -105,7 +106,7 @@ _tivex_offer_options() {
       'tivex bank') _tivex_offer '-h' '--help' '--iban' '--bic' '--input' '--column' '--delimiter' '--json' ;;
       'tivex account') _tivex_offer '-h' '--help' ;;
       'tivex account check') _tivex_offer '-h' '--help' '--method' '--bank-code' '--input' '--column' '--delimiter' '--json' ;;
-      'tivex statement') _tivex_offer '-h' '--help' '--format' '--json' '--from' '--to' '--encoding' '--strict' '--quiet' ;;
+      'tivex statement') _tivex_offer '-h' '--help' '--format' '--json' '--account' '--from' '--to' '--encoding' '--strict' '--quiet' ;;
       'tivex help') _tivex_offer '-h' '--help' ;;
   esac
 }

@@ -59,7 +59,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR})
 set(about
 "tivex writes payments as credit transfer (pain.001) and direct debit
 (pain.008) documents, validates IBANs, BICs and German account numbers,
-finds the bank behind a code and reads bank statements (MT940).")
+finds the bank behind a code and reads bank statements (CAMT, MT940).")
 
 # CPack 3.25 has no variable for Multi-Arch, so the field follows the section.
 

@@ -43,7 +43,7 @@ TEST_P(Killed, LeavesNoFileBeside) {
   const std::string transfer =
       "credit-transfer --name A --iban DE89370400440532013000 --message-id M --lenient in.csv -o "
       "out.xml";
-  run_and_kill("statement in.sta", GetParam(), directory);
+  run_and_kill("statement - <in.sta", GetParam(), directory);
   EXPECT_FALSE(has_temporary_file(directory / ""));
   run_and_kill(transfer, GetParam(), directory);
   EXPECT_FALSE(has_temporary_file(directory / ""));

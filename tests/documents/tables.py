@@ -142,6 +142,21 @@ def column_faults(document, library, helps):
             yield 1, f"{command}: column {key} is " + ("missing" if key in wanted else "unknown")
 
 
+# --- docs/statements.md -----------------------------------------------------------
+
+
+def statement_faults(document, root):
+    """The fields and words of the tables against those of the sources."""
+    known = {"Field": ("cli/statements/statement_fields.cpp", r'\{"(\w+)", value_of<'),
+             "Word": ("src/statements/dialects/word_text.cpp", r'^ +\{"([A-Z]+)"')}
+    for first_column, (path, pattern) in known.items():
+        wanted = set(re.findall(pattern, (root / path).read_text(), re.M))
+        listed = {name: line for line, cells in document.table(first_column)
+                  for name in codes(cells[0])}
+        for name in sorted(set(listed) ^ wanted):
+            yield listed.get(name, 1), f"{name} is " + ("unknown" if name in listed else "missing")
+
+
 # --- docs/rulebooks.md ------------------------------------------------------------
 
 

@@ -14,7 +14,7 @@ tivex iban c|check convert
 tivex iban check |
 tivex bank |AT CH DE LI
 tivex bank --j|--json
-tivex statement --format |csv json table
+tivex statement --format |csv hledger json table
 tivex direct-debit --type C|COR1 CORE
 tivex direct-debit --name bank --type C|COR1 CORE
 tivex credit-transfer --rulebook N|NL-6

@@ -46,8 +46,8 @@ constexpr note variables[] = {
     {"--message-id", "TZ",
      "Time zone of the date and time that a document gets where none is given."},
     {"tivex statement", "TMPDIR",
-     "Folder of the copy of a statement file that the library reads once line ends are put "
-     "right (default: /tmp). It is removed at once."},
+     "Folder of the copy that the library reads of a statement from standard input, a pipe or "
+     "an archive (default: /tmp). It is removed at once."},
 };
 
 constexpr note written_files[] = {
