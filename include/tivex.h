@@ -2,7 +2,7 @@
  * @mainpage tivex: payments in the Single Euro Payments Area
  *
  * The library writes pain.001 and pain.008 documents from key-value transactions
- * under ten national rulebooks, validates IBANs and BICs and finds the bank behind
+ * under eleven national rulebooks, validates IBANs and BICs and finds the bank behind
  * them in a directory of its own. The header tivex.h is its whole interface; it is
  * valid C89, C11 and C++.
  *
@@ -88,14 +88,17 @@ extern TIVEX_API const char *tivex_edition_str;
  *
  * @param option TIVEX_OPTION_RULEBOOK, the only one.
  * @param value the rulebook's name, compared byte for byte: "DE-2.6", "DE-2.7",
- *        "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7" (Germany), "AT-6"
- *        (Austria) or "NL-6" (Netherlands).
+ *        "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7", "DE-26.11"
+ *        (Germany), "AT-6" (Austria) or "NL-6" (Netherlands).
  *
  * The rulebook decides which characters and address keys tivex_add admits and
  * in which schema version tivex_toXML writes. It is read when a check or a
- * document runs, so it also affects messages that exist already. Without a call
- * the first tivex_new selects "DE-3.7" from 17 April 2024 (local date) on, and
- * "DE-3.5" before.
+ * document runs, so it also affects messages that exist already. "DE-26.11" is what
+ * German banks work by since 16 November 2026: as "DE-3.7", with address lines beside
+ * the parts of an address, instant payments, banks told by their IBANs alone, further
+ * keys, and documents of the strict mode only; an addition, there since revision
+ * 2.28-1. Without a call the first tivex_new selects "DE-3.7" from 17 April 2024 (local
+ * date) on, and "DE-3.5" before.
  *
  * Returns 1, or 0 for another option, a null value or an unknown name; then
  * nothing changes.
@@ -133,6 +136,11 @@ typedef struct tivex_message tivex_t;
 #define TIVEX_DD_COR1 1 /**< local instrument: core scheme, one day */
 #define TIVEX_DD_B2B 2  /**< local instrument: between businesses */
 
+/* The types of a credit transfer, for tivex_setCTType; an addition, there since revision
+   2.28-1. */
+#define TIVEX_CT_STANDARD 0 /**< credit transfer: on the next business day */
+#define TIVEX_CT_INSTANT 1  /**< credit transfer: within seconds */
+
 /**
  * One property of a transaction, for tivex_add.
  * @ingroup transactions
@@ -143,7 +151,8 @@ typedef struct tivex_keyvalue {
 } tivex_keyvalue_t;
 
 /**
- * Creates an empty message with batch booking on and the CORE local instrument.
+ * Creates an empty message with batch booking on, the CORE local instrument, the
+ * standard type of credit transfers and no category purpose.
  * Selects the default rulebook when none is selected yet, even when it then
  * refuses the type.
  *
@@ -266,6 +275,33 @@ TIVEX_API int tivex_setDate(tivex_t *msg, const char *date);
 TIVEX_API int tivex_setDDType(tivex_t *msg, int code);
 
 /**
+ * Sets the type of a credit transfer message.
+ *
+ * @param code TIVEX_CT_STANDARD, or TIVEX_CT_INSTANT (only under "DE-26.11"): each
+ *        payment is to reach the other account within seconds.
+ *
+ * An addition, there since revision 2.28-1.
+ *
+ * Errors: "Not a credit transfer message",
+ * "Unknown/unsupported credit transfer type",
+ * "Instant payments are not allowed with selected SEPA rulebook".
+ */
+TIVEX_API int tivex_setCTType(tivex_t *msg, int code);
+
+/**
+ * Sets what all payments of the message are for (ISO 20022 external code set of
+ * category purposes), by which banks may treat them.
+ *
+ * @param code four capital letters or digits, such as "SALA" for salaries, or null for
+ *        none. It may be set under any rulebook and is written under "DE-26.11" only.
+ *
+ * An addition, there since revision 2.28-1.
+ *
+ * Errors: "Invalid category purpose".
+ */
+TIVEX_API int tivex_setCategoryPurpose(tivex_t *msg, const char *code);
+
+/**
  * Asks the bank to book each payment block as one batch (mode 1, the default)
  * or its transactions singly (mode 0).
  *
@@ -284,7 +320,8 @@ TIVEX_API int tivex_setMessageId(tivex_t *msg, const char *id);
 /**
  * Chooses how tivex_toXML writes the message: in the prescribed form, whatever
  * the schema says of its values (mode 0, the default), or only as a document that
- * its schema accepts (mode 1, the strict mode; see tivex_toXML).
+ * its schema accepts (mode 1, the strict mode; see tivex_toXML). Under "DE-26.11" every
+ * document is one of the strict mode.
  *
  * Errors: "Invalid strict mode (only 0 or 1 allowed)".
  *
@@ -331,10 +368,18 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  *     "id"         end-to-end identification                        1 to 35
  *     "addrCC"     country, two capital letters                     2
  *     "addrLine1", "addrLine2"  address lines, not under "DE-3.7"   1 to 70
- *     under "DE-3.7" only (otherwise a direct debit refuses them):
+ *     under "DE-3.7" and "DE-26.11" (a direct debit refuses them otherwise):
  *     "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom"  1 to 70
  *     "addrBldg", "addrTown", "addrLoc", "addrDstrct", "addrCtrySub"    1 to 35
  *     "addrNum", "addrPoBox", "addrCode"                                1 to 16
+ *     under "DE-26.11" only (unknown keys otherwise):
+ *     "cref"       creditor reference (ISO 11649): "RF", two check  5 to 25
+ *                  digits, capital letters or digits; not beside a
+ *                  "ref" that is not empty
+ *     "ultmtDbtr"  name of the one on whose behalf the debtor pays  1 to 70
+ *     "ultmtCdtr"  name of the one on whose behalf the creditor     1 to 70
+ *                  receives
+ *     "instrId"    identification for the host's own bank           1 to 35
  *     for a credit transfer:
  *     "purp"       purpose code (ISO 20022 external code set)       4
  *     for a direct debit:
@@ -349,20 +394,23 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  *
  * A debtor whose BIC names a SEPA country outside the European Economic Area
  * (such as CH or GB) needs an address line under "DE-3.1" and "DE-3.5", town and
- * country under "DE-3.7".
+ * country under "DE-3.7" and "DE-26.11"; under the latter a debtor without BIC whose
+ * IBAN names such a country needs them as well.
  *
- * Names, address lines and remittance information take the character set that
- * tivex_setName names, "id" the same without & * $ % and German letters, "mref"
- * and "old_mref" the set of "id" without the blank, which "mref" may hold from
- * "DE-3.0" on; under "AT-6" all of them also take the euro sign and
- * ! " # ; < = > @ [ ] ^ _ { | } ~.
+ * Names, also those of ultimate parties, address lines and remittance information take
+ * the character set that tivex_setName names, "id" and "instrId" the same without
+ * & * $ % and German letters, "mref" and "old_mref" the set of "id" without the blank,
+ * which "mref" may hold from "DE-3.0" on; under "AT-6" all of them also take the euro
+ * sign and ! " # ; < = > @ [ ] ^ _ { | } ~.
  * "purp", "date" and "mdate" are checked for their length only, structured
  * address parts for theirs, and "purp", "date", "mdate", "id", "mref" and
  * "old_mref" are written without escaping.
  *
  * An address is written in the form of the rulebook that is selected when the
  * document is written: structured parts, when there is a town or a country among
- * them, or address lines and country. What that form has no place for is left out.
+ * them, or address lines and country; under "DE-26.11" parts and lines. What that form
+ * has no place for is left out, and so are the values of further keys under other
+ * rulebooks.
  *
  * Returns 1, or 0 with the reason in the message's error text; then the
  * message's transactions are as before. For a null message returns 0. When memory
@@ -373,6 +421,7 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  * value as given):
  *   "No key-value list submitted", "Out of memory", "IBAN missing",
  *   "BIC missing", "Amount missing" (also for amounts that round to 0),
+ *   "Creditor reference and remittance information exclude each other",
  *   "Sequence type missing", "Address required for BICs outside EEA",
  *   "Structured address required for BICs outside EEA (at least town and country)",
  *   the IBAN's reasons listed at tivex_setIBAN, alone,
@@ -396,7 +445,14 @@ TIVEX_API int tivex_setStrict(tivex_t *msg, unsigned char mode);
  *   "Invalid mandate signature date (format: yyyy-mm-dd)",
  *   "Invalid old mandate reference (must be 1-35 characters)",
  *   "Invalid character '%c' in old mandate reference",
- *   "Invalid value '%s' for SMNDA flag", "Invalid transaction property '%s'".
+ *   "Invalid value '%s' for SMNDA flag", "Invalid transaction property '%s'",
+ *   "Invalid creditor reference", "Invalid creditor reference checksum",
+ *   "Invalid ultimate debtor (must be 1-70 characters)",
+ *   "Invalid character '%c' in ultimate debtor",
+ *   "Invalid ultimate creditor (must be 1-70 characters)",
+ *   "Invalid character '%c' in ultimate creditor",
+ *   "Invalid instruction ID (must be 1-35 characters)",
+ *   "Invalid character '%c' in instruction ID".
  */
 TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
 
@@ -421,14 +477,15 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  *     "DE-2.7" to "DE-2.9"           pain.001.003.03   pain.008.003.02
  *     "DE-3.0" to "DE-3.5",          pain.001.001.03   pain.008.001.02
  *     "AT-6", "NL-6"
- *     "DE-3.7"                       pain.001.001.09   pain.008.001.08
+ *     "DE-3.7", "DE-26.11"           pain.001.001.09   pain.008.001.08
  *
  * Transactions stand in payment blocks, one for each date in ascending order and,
  * of direct debits, for each sequence type in the order FRST, RCUR, OOFF, FNAL;
  * within a block they stand in the order of adding. A credit transfer is written
  * with the header values that are set, so that the host decides what its bank
  * needs; a direct debit needs IBAN, BIC, name, creditor identifier and a
- * transaction, and a mandate's reference or date that is not given is left out.
+ * transaction (under "DE-26.11" no BIC), and a mandate's reference or date that is not
+ * given is left out.
  *
  * A date or message identifier that is not set is filled in and kept, also when
  * the document is then refused: today's local date, and "SEPA-", local time and
@@ -436,8 +493,9 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * may be written repeatedly.
  *
  * In the strict mode (tivex_setStrict) the document is valid by its ISO 20022
- * schema and, under a German rulebook, by the subset of it that the German banking
- * industry prescribes and German banks check. Against the prescribed form the
+ * schema and, under a German rulebook or "AT-6", by the subset of it that the banking
+ * industry of the country prescribes and its banks check; and it keeps to rules that
+ * hold for every SEPA file though no schema states them. Against the prescribed form the
  * execution date of pain.001.001.09 stands within Dt, elements that would be
  * empty are left out where the schema can do without them, and sums are exact (the
  * prescribed ones are sums of binary fractions). A message whose values do not make
@@ -455,13 +513,15 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  * "unknown/unsupported SEPA rulebook selected"; of a direct debit also
  * "Missing creditor IBAN", "Missing creditor BIC", "Missing creditor name",
  * "Missing creditor identifier", "No transactions available" and
- * "Unknown/unsupported LocalInstrumentCode (setDDType)" (COR1 from "DE-3.0" on).
+ * "Unknown/unsupported LocalInstrumentCode (setDDType)" (COR1 from "DE-3.0" on); of a
+ * credit transfer "Instant payments are not allowed with selected SEPA rulebook" (when
+ * the rulebook has changed).
  * When memory is exhausted the error text may stay as it was.
  * In the strict mode also the first flaw of the values: those of the header stand
  * before those of the transactions, which stand in the order of adding (counted
  * from 1), each with the keys in the order name, bic, address, purp, amount, date,
- * id, mref, mdate, old_mref, and sums come last; "%s" is the key at the first place
- * and the schema version at the second:
+ * id, mref, mdate, old_mref, ref, ultmtDbtr, ultmtCdtr, instrId, and sums come last;
+ * "%s" is the key at the first place and the schema version at the second:
  *   "message: %s ..." with IBAN, BIC, name, creditor identifier, date, message id,
  *   transactions, sum or local instrument, "transaction %u: %s ..." with a
  *   key of tivex_add, and
@@ -472,7 +532,14 @@ TIVEX_API int tivex_add(tivex_t *msg, const tivex_keyvalue_t *list);
  *   "has ']]>' (not allowed by XML)", "lost (out of memory)" (see tivex_add; first of
  *   its transaction's),
  *   "above 999999999.99 (not allowed by %s)",
+ *   "above 999999999999.99 (not allowed by %s)" (sums), "above 999999 (not allowed by
+ *   %s)" (transactions), "is not in the list of purposes (not allowed by %s)" (with the
+ *   name of the subset that has the list, such as pain.001.001.03.at.004),
  *   "of more than 18 digits (not allowed by %s)", "is COR1 (not allowed by %s)",
+ *   "has '/' at its start (not allowed by SEPA)", "has '/' at its end (not allowed by
+ *   SEPA)", "has '//' (not allowed by SEPA)", "has blanks only (not allowed by SEPA)",
+ *   "missing (not allowed by SEPA)" (the address of a debtor whose IBAN names a country
+ *   outside the European Economic Area),
  *   "is not two letters, two digits, business code and national identifier
  *   (required by %s)", "above %u bytes, payment ids above 35 (not allowed by %s)"
  *   (they are the message's with "-P" and the block's number).

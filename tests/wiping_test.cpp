@@ -36,6 +36,19 @@ TEST_P(Wiping, OverwritesTextsRecordsAndDocumentsBeforeRelease) {
     }
     const message_ptr debit = new_message(TIVEX_DIRECT_DEBIT);
     ASSERT_EQ(add(debit, {{"mref", secret}, {"old_iban", secret}}), 1);
+    for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
+      const message_ptr further = new_message(type, "DE-26.11");
+      for (const int expected : {1, 0}) {
+        ASSERT_EQ(add(further, {{"cref", "RF13NO9386011117947"},
+                                {"ultmtDbtr", secret},
+                                {"ultmtCdtr", secret},
+                                {"instrId", secret},
+                                {"addrLine1", secret},
+                                {"amount", expected == 1 ? "1" : "0"}}),
+                  expected);
+      }
+    }
+    ASSERT_EQ(tivex_init(TIVEX_OPTION_RULEBOOK, "DE-3.7"), 1);
     // A half-built record, an error text in the message, a document that grows
     // through several blocks and one that is given up.
     EXPECT_EQ(add(msg, {{"ref", secret}, {"iban", "NO"}}), 0);

@@ -31,6 +31,9 @@ namespace Tivex
         public const int TIVEX_DD_COR1 = 1;
         public const int TIVEX_DD_B2B = 2;
 
+        public const int TIVEX_CT_STANDARD = 0;
+        public const int TIVEX_CT_INSTANT = 1;
+
         public const int TIVEX_SCHEME_CREDIT_TRANSFER = 0x01;
         public const int TIVEX_SCHEME_DEBIT_CORE = 0x02;
         public const int TIVEX_SCHEME_DEBIT_B2B = 0x08;
@@ -97,6 +100,11 @@ namespace Tivex
         public static extern int tivex_setDate(MessageHandle msg, [MarshalAs(Utf8)] string date);
         [DllImport(Library, CallingConvention = C)]
         public static extern int tivex_setDDType(MessageHandle msg, int code);
+        [DllImport(Library, CallingConvention = C)]
+        public static extern int tivex_setCTType(MessageHandle msg, int code);
+        [DllImport(Library, CallingConvention = C)]
+        public static extern int tivex_setCategoryPurpose(MessageHandle msg,
+            [MarshalAs(Utf8)] string code);
         [DllImport(Library, CallingConvention = C)]
         public static extern int tivex_setBatchBooking(MessageHandle msg, byte mode);
         [DllImport(Library, CallingConvention = C)]

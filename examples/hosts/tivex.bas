@@ -28,6 +28,9 @@ Public Const TIVEX_DD_CORE As Long = 0
 Public Const TIVEX_DD_COR1 As Long = 1
 Public Const TIVEX_DD_B2B As Long = 2
 
+Public Const TIVEX_CT_STANDARD As Long = 0
+Public Const TIVEX_CT_INSTANT As Long = 1
+
 Public Const TIVEX_SCHEME_CREDIT_TRANSFER As Long = &H01
 Public Const TIVEX_SCHEME_DEBIT_CORE As Long = &H02
 Public Const TIVEX_SCHEME_DEBIT_B2B As Long = &H08
@@ -122,6 +125,8 @@ Public Declare PtrSafe Function tivex_setName Lib "tivex.dll" (ByVal msg As Long
 Public Declare PtrSafe Function tivex_setCreditorIdentifier Lib "tivex.dll" (ByVal msg As LongPtr, ByVal id As LongPtr) As Long
 Public Declare PtrSafe Function tivex_setDate Lib "tivex.dll" (ByVal msg As LongPtr, ByVal day As LongPtr) As Long
 Public Declare PtrSafe Function tivex_setDDType Lib "tivex.dll" (ByVal msg As LongPtr, ByVal code As Long) As Long
+Public Declare PtrSafe Function tivex_setCTType Lib "tivex.dll" (ByVal msg As LongPtr, ByVal code As Long) As Long
+Public Declare PtrSafe Function tivex_setCategoryPurpose Lib "tivex.dll" (ByVal msg As LongPtr, ByVal code As LongPtr) As Long
 Public Declare PtrSafe Function tivex_setBatchBooking Lib "tivex.dll" (ByVal msg As LongPtr, ByVal mode As Byte) As Long
 Public Declare PtrSafe Function tivex_setMessageId Lib "tivex.dll" (ByVal msg As LongPtr, ByVal id As LongPtr) As Long
 Public Declare PtrSafe Function tivex_setStrict Lib "tivex.dll" (ByVal msg As LongPtr, ByVal mode As Byte) As Long

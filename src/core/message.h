@@ -39,6 +39,8 @@ struct message {
   std::uint8_t strict = 0;   // 1: only documents that their schema accepts are written
   bool copy_failed = false;  // of a value, in the adding that runs
   lost_value lost;           // the first one
+  std::int32_t transfer_type = TIVEX_CT_STANDARD;
+  char category_purpose[5] = {};  // empty: none
 
   // Both note the reason of a failure and give back the result of one.
   bool fail(const char* reason);
@@ -61,6 +63,9 @@ bool message::fail_with(const char* format, values... shown) {
   platform::wipe(text, sizeof text);
   return fail(error_text);
 }
+
+// Whether the selected rulebook has instant payments. If not, the message says so.
+bool admits_instant_payments(message& msg);
 
 }  // namespace tivex
 

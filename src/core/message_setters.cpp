@@ -1,7 +1,9 @@
 // The header setters: each checks its value completely before it changes the
 // message.
 
+#include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "core/creditor_identifier.h"
 #include "core/message.h"
@@ -9,6 +11,7 @@
 #include "tivex.h"
 #include "transactions/charset.h"
 #include "transactions/date_text.h"
+#include "validation/ascii.h"
 #include "validation/bic_text.h"
 #include "validation/format_check.h"
 #include "validation/iban.h"
@@ -74,6 +77,27 @@ bool set_local_instrument(message& msg, int code) {
   return true;
 }
 
+bool set_transfer_type(message& msg, int code) {
+  if (msg.type != TIVEX_CREDIT_TRANSFER) return msg.fail("Not a credit transfer message");
+  if (code != TIVEX_CT_STANDARD && code != TIVEX_CT_INSTANT) {
+    return msg.fail("Unknown/unsupported credit transfer type");
+  }
+  if (code == TIVEX_CT_INSTANT && !admits_instant_payments(msg)) return false;
+  msg.transfer_type = code;
+  return true;
+}
+
+// Null takes the code away.
+bool set_category_purpose(message& msg, const char* code) {
+  const std::string_view text = code != nullptr ? code : "";
+  const auto admitted = [](char c) { return is_upper(c) || is_digit(c); };
+  if (code != nullptr && (text.size() != 4 || !std::ranges::all_of(text, admitted))) {
+    return msg.fail("Invalid category purpose");
+  }
+  *std::ranges::copy(text, msg.category_purpose).out = '\0';
+  return true;
+}
+
 bool set_batch_booking(message& msg, unsigned char mode) {
   if (mode > 1) return msg.fail("Invalid BatchBooking mode (only 0 or 1 allowed)");
   msg.batch_booking = mode;
@@ -100,6 +124,11 @@ bool set_message_id(message& msg, const char* id) {
 
 }  // namespace
 
+bool admits_instant_payments(message& msg) {
+  return current_rules().further_keys ||
+         msg.fail("Instant payments are not allowed with selected SEPA rulebook");
+}
+
 }  // namespace tivex
 
 int tivex_setIBAN(tivex_t* msg, const char* iban) {
@@ -124,6 +153,14 @@ int tivex_setDate(tivex_t* msg, const char* date) {
 
 int tivex_setDDType(tivex_t* msg, int code) {
   return msg != nullptr && tivex::set_local_instrument(*msg, code);
+}
+
+int tivex_setCTType(tivex_t* msg, int code) {
+  return msg != nullptr && tivex::set_transfer_type(*msg, code);
+}
+
+int tivex_setCategoryPurpose(tivex_t* msg, const char* code) {
+  return msg != nullptr && tivex::set_category_purpose(*msg, code);
 }
 
 int tivex_setBatchBooking(tivex_t* msg, unsigned char mode) {

@@ -20,6 +20,7 @@ enum rulebook_number : std::int32_t {
   RULEBOOK_DE_3_1 = 7,
   RULEBOOK_DE_3_5 = 8,
   RULEBOOK_DE_3_7 = 9,
+  RULEBOOK_DE_26_11 = 10,
 };
 
 // What may be set and added; what is written is told by the document's schema.
@@ -32,21 +33,25 @@ struct rulebook_rules {
   bool blank_in_mandate_reference;  // admitted
   bool address_line_outside_eea;    // needed for debtors whose bank is there
   bool structured_address;          // keys of its parts in place of address lines
+  bool hybrid_address;              // address lines beside the parts
+  bool bank_by_iban;                // where there is no BIC, also to tell what lies outside
+  bool further_keys;                // those of key_rules.h, and instant payments
 };
 
 // In the order of the numbers.
-inline constexpr std::array<rulebook_rules, 10> rulebook_table = {{
-    // name    BIC    plain  wide   COR1   blank  EEA    structured
-    {"DE-2.6", true, true, false, false, false, false, false},
-    {"DE-2.7", false, false, false, true, false, false, false},
-    {"AT-6", false, false, true, true, false, false, false},
-    {"NL-6", false, false, false, true, false, false, false},
-    {"DE-2.8", false, false, false, true, false, false, false},
-    {"DE-2.9", false, false, false, true, false, false, false},
-    {"DE-3.0", false, false, false, false, true, false, false},
-    {"DE-3.1", false, false, false, false, true, true, false},
-    {"DE-3.5", false, false, false, false, true, true, false},
-    {"DE-3.7", false, false, false, false, true, false, true},
+inline constexpr std::array<rulebook_rules, 11> rulebook_table = {{
+    // name    BIC    plain  wide   COR1   blank  EEA    parts  hybrid IBAN   further
+    {"DE-2.6", true, true, false, false, false, false, false, false, false, false},
+    {"DE-2.7", false, false, false, true, false, false, false, false, false, false},
+    {"AT-6", false, false, true, true, false, false, false, false, false, false},
+    {"NL-6", false, false, false, true, false, false, false, false, false, false},
+    {"DE-2.8", false, false, false, true, false, false, false, false, false, false},
+    {"DE-2.9", false, false, false, true, false, false, false, false, false, false},
+    {"DE-3.0", false, false, false, false, true, false, false, false, false, false},
+    {"DE-3.1", false, false, false, false, true, true, false, false, false, false},
+    {"DE-3.5", false, false, false, false, true, true, false, false, false, false},
+    {"DE-3.7", false, false, false, false, true, false, true, false, false, false},
+    {"DE-26.11", false, false, false, false, true, false, true, true, true, true},
 }};
 
 // Process-wide; a host selects before it starts threads.

@@ -27,6 +27,15 @@ inline const field_row* find_address_field(const written_key& key) {
   return current_rules().structured_address ? structured_address_fields.find(key) : nullptr;
 }
 
+// The row of a key that the rulebook knows; null when there is none.
+template <class record, std::size_t count>
+[[gnu::always_inline]] inline const key_rule<record>* find_key(
+    const written_key& key, const list_rules<record, count>& rules) {
+  const key_rule<record>* const row = rules.keys.find(key);
+  const bool unknown = row != nullptr && row->is_further && !current_rules().further_keys;
+  return unknown ? nullptr : row;
+}
+
 template <class record, std::size_t count>
 bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
                   const list_rules<record, count>& rules) {
@@ -34,7 +43,7 @@ bool accept_entry(message& msg, record& target, const tivex_keyvalue_t& entry,
   if (const field_row* const row = find_address_field(key)) {
     return field_table_set(msg, target, entry, *row);
   }
-  if (const key_rule<record>* const row = rules.keys.find(key)) {
+  if (const key_rule<record>* const row = find_key(key, rules)) {
     return row->accept(msg, target, entry.value);
   }
   return rules.accept_unknown(msg, entry.key);
@@ -48,7 +57,7 @@ const char* find_lost_value(const record& added, const tivex_keyvalue_t* list,
     const written_key key(list->key);
     if (const field_row* const part = find_address_field(key)) {
       if (!(added.*part->destination)) return part->key.data();
-    } else if (const key_rule<record>* const row = rules.keys.find(key)) {
+    } else if (const key_rule<record>* const row = find_key(key, rules)) {
       if (row->field != nullptr && !(added.*row->field)) return row->key.data();
     }
   }
@@ -88,6 +97,14 @@ inline bool has_account(message& msg, const transaction& added) {
 
 inline bool has_amount(message& msg, double amount) {
   return amount != 0.0 || msg.fail("Amount missing");
+}
+
+// A creditor reference stands in place of the remittance information.
+template <class record>
+bool has_one_reference(message& msg, const record& added) {
+  const bool has_text = added.remittance && *added.remittance.c_str() != '\0';
+  return !has_text || !added.creditor_reference ||
+         msg.fail("Creditor reference and remittance information exclude each other");
 }
 
 }  // namespace tivex

@@ -20,10 +20,10 @@ constexpr std::array<key_rule<ct_transaction>, 1> own_keys = {{
 bool ignore_unknown(message& /*msg*/, const char* /*key*/) { return true; }
 
 bool complete(message& msg, const ct_transaction& added) {
-  return has_account(msg, added) && has_amount(msg, added.amount);
+  return has_account(msg, added) && has_amount(msg, added.amount) && has_one_reference(msg, added);
 }
 
-constexpr auto keys = joined(shared_keys, own_keys);
+constexpr auto keys = joined(joined(shared_keys, own_keys), further_key_rules<ct_transaction>());
 
 constexpr list_rules<ct_transaction, keys.size()> rules = {key_index(keys), ignore_unknown,
                                                            complete};

@@ -11,6 +11,10 @@ struct ct_transaction : transaction {
   double amount = 0.0;  // euro, whole cents
   owned_text date;      // when unset, the message's date applies
   ct_transaction* next = nullptr;
+  owned_text creditor_reference;
+  owned_text ultimate_debtor;  // on whose behalf, as is the next
+  owned_text ultimate_creditor;
+  owned_text instruction_id;
 };
 
 // Adds a credit transfer as tivex_add describes.

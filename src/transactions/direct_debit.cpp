@@ -78,10 +78,16 @@ bool refuse_unknown(message& msg, const char* key) {
   return msg.fail_with("Invalid transaction property '%.255s'", key);
 }
 
+// Of the debtor's bank.
+bool lies_outside_eea(const dd_transaction& added) {
+  if (added.bic) return bic_outside_eea(added.bic.c_str()) == 1;
+  return current_rules().bank_by_iban && country_outside_eea(added.iban.c_str());
+}
+
 // A debtor whose bank lies outside the European Economic Area must be told by
 // address.
 bool has_address(message& msg, const dd_transaction& added) {
-  if (!added.bic || bic_outside_eea(added.bic.c_str()) != 1) return true;
+  if (!lies_outside_eea(added)) return true;
   const rulebook_rules& rules = current_rules();
   if (rules.address_line_outside_eea && !added.addr_line1 && !added.addr_line2) {
     return msg.fail("Address required for BICs outside EEA");
@@ -98,10 +104,10 @@ bool has_sequence(message& msg, const dd_transaction& added) {
 
 bool complete(message& msg, const dd_transaction& added) {
   return has_account(msg, added) && has_address(msg, added) && has_sequence(msg, added) &&
-         has_amount(msg, added.amount);
+         has_amount(msg, added.amount) && has_one_reference(msg, added);
 }
 
-constexpr auto keys = joined(shared_keys, own_keys);
+constexpr auto keys = joined(joined(shared_keys, own_keys), further_key_rules<dd_transaction>());
 
 constexpr list_rules<dd_transaction, keys.size()> rules = {key_index(keys), refuse_unknown,
                                                            complete};

@@ -26,6 +26,10 @@ struct dd_transaction : transaction {
   std::uint8_t smnda = 0;  // 1: the debtor has a new account under the same mandate
   owned_text remittance;
   dd_transaction* next = nullptr;
+  owned_text creditor_reference;
+  owned_text ultimate_debtor;  // on whose behalf, as is the next
+  owned_text ultimate_creditor;
+  owned_text instruction_id;
 };
 
 // Adds a direct debit as tivex_add describes.

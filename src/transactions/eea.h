@@ -7,4 +7,7 @@ namespace tivex {
 // its country code is looked at.
 int bic_outside_eea(const char* bic);
 
+// The same of the two letters of a country, with which an IBAN begins.
+bool country_outside_eea(const char* country);
+
 }  // namespace tivex

@@ -6,6 +6,7 @@
 #include "transactions/charset.h"
 #include "validation/ascii.h"
 #include "validation/bic_text.h"
+#include "validation/creditor_reference.h"
 #include "validation/format_check.h"
 #include "validation/iban.h"
 
@@ -64,11 +65,19 @@ bool accept_country(message& msg, const text_rule& rule, const char* value, owne
 
 bool accept_address_line(message& msg, const text_rule& rule, const char* value,
                          owned_text& field) {
-  if (current_rules().structured_address) {
+  const rulebook_rules& rules = current_rules();
+  if (rules.structured_address && !rules.hybrid_address) {
     return msg.fail("selected SEPA rulebook requires structured address data");
   }
   if (!format_check(FORMAT_TEXT70, value)) return msg.fail(rule.length_error);
   return check_characters(msg, rule, value) && store(msg, field, value);
+}
+
+bool accept_creditor_reference(message& msg, const text_rule& /*rule*/, const char* value,
+                               owned_text& field) {
+  const std::string_view reference = measured(value);
+  const char* const fault = creditor_reference_fault(reference);
+  return fault == nullptr ? store(msg, field, reference) : msg.fail(fault);
 }
 
 }  // namespace tivex

@@ -31,5 +31,6 @@ field_check accept_iban;
 field_check accept_bic;
 field_check accept_country;
 field_check accept_address_line;
+field_check accept_creditor_reference;
 
 }  // namespace tivex

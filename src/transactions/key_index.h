@@ -11,15 +11,19 @@
 
 namespace tivex {
 
-// A key as a host writes it, with its length, and a number by its length, middle and end
-// that tells the keys of a table apart.
+// A key as a host writes it, with its length, and a number by its length, start, middle
+// and end that tells the keys of a table apart.
 class written_key {
  public:
+  // The text ends with NUL, which counts as the middle of a single letter.
   constexpr explicit written_key(std::string_view text) : text_(text) {
     if (text_.empty()) return;
-    const auto fold = [](char c) { return static_cast<std::uint32_t>(c | 0x20) & 0xFFU; };
-    number_ = static_cast<std::uint32_t>(text_.size()) << 16 | fold(text_[text_.size() / 2]) << 8 |
-              fold(text_.back());
+    const auto byte = [this](std::size_t place) {
+      return static_cast<std::uint32_t>(static_cast<unsigned char>(c_str()[place]));
+    };
+    const std::size_t size = text_.size();
+    number_ = static_cast<std::uint32_t>(size) << 24 | byte(0) << 16 | byte((size + 1) / 2) << 8 |
+              byte(size - 1) | small_letters;
   }
 
   constexpr const char* c_str() const { return text_.data(); }
@@ -31,6 +35,8 @@ class written_key {
   }
 
  private:
+  static constexpr std::uint32_t small_letters = 0x202020;
+
   std::string_view text_;
   std::uint32_t number_ = 0;
 };

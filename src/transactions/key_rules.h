@@ -12,7 +12,8 @@
 
 namespace tivex {
 
-// Most keys store a checked text; the others have a function of their own.
+// Most keys store a checked text; the others have a function of their own. Further keys
+// are known where the rulebook admits them.
 template <class record>
 struct key_rule {
   std::string_view key;
@@ -20,6 +21,7 @@ struct key_rule {
   field_check* check = nullptr;
   text_rule rule = {};
   bool (*accept_value)(message& msg, record& target, const char* value) = nullptr;
+  bool is_further = false;
 
   bool accept(message& msg, record& target, const char* value) const {
     return check != nullptr ? check(msg, rule, value, target.*field)
@@ -67,6 +69,35 @@ constexpr std::array<key_rule<record>, 10> shared_key_rules(const char* name_err
        accept_text,
        {1, 35, "Invalid end-to-end ID (must be 1-35 characters)", CHARSET_PLAIN,
         "Invalid character '%c' in end-to-end ID"}},
+  }};
+}
+
+// The further keys, which both share as well.
+template <class record>
+constexpr std::array<key_rule<record>, 4> further_key_rules() {
+  return {{
+      {.key = "cref",
+       .field = &record::creditor_reference,
+       .check = accept_creditor_reference,
+       .is_further = true},
+      {.key = "ultmtDbtr",
+       .field = &record::ultimate_debtor,
+       .check = accept_text,
+       .rule = {1, 70, "Invalid ultimate debtor (must be 1-70 characters)", CHARSET_TEXT,
+                "Invalid character '%c' in ultimate debtor"},
+       .is_further = true},
+      {.key = "ultmtCdtr",
+       .field = &record::ultimate_creditor,
+       .check = accept_text,
+       .rule = {1, 70, "Invalid ultimate creditor (must be 1-70 characters)", CHARSET_TEXT,
+                "Invalid character '%c' in ultimate creditor"},
+       .is_further = true},
+      {.key = "instrId",
+       .field = &record::instruction_id,
+       .check = accept_text,
+       .rule = {1, 35, "Invalid instruction ID (must be 1-35 characters)", CHARSET_PLAIN,
+                "Invalid character '%c' in instruction ID"},
+       .is_further = true},
   }};
 }
 

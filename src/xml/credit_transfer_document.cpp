@@ -14,9 +14,8 @@ namespace {
 
 // Where the date could have been a time as well, the prescribed form does not say
 // which it is; the schema asks for that.
-void write_execution_date(document_writer& out, const message& msg, const document_schema& schema,
-                          const char* date) {
-  if (msg.strict == 0 || !schema.date_or_time) return out.value("ReqdExctnDt", date);
+void write_execution_date(document_writer& out, const document_schema& schema, const char* date) {
+  if (!out.strict() || !schema.date_or_time) return out.value("ReqdExctnDt", date);
   const element execution(out, "ReqdExctnDt");
   out.value("Dt", date);
 }
@@ -27,8 +26,10 @@ void write_payment_header(document_writer& out, const message& msg, const docume
   {
     const element type(out, "PmtTpInf");
     write_service_level(out);
+    if (form.local_instrument != nullptr) write_code(out, "LclInstrm", form.local_instrument);
+    write_category_purpose(out, msg, form.schema);
   }
-  write_execution_date(out, msg, form.schema, block.date);
+  write_execution_date(out, form.schema, block.date);
   write_party(out, "Dbtr", msg.name);
   write_account(out, "DbtrAcct", msg.iban);
   write_agent(out, "DbtrAgt", form.schema, msg.bic);
@@ -42,29 +43,33 @@ void write_creditor(document_writer& out, const document_schema& schema, const c
 }
 
 void write_purpose(document_writer& out, const ct_transaction& tx) {
-  if (!tx.purpose) return;
-  const element purpose(out, "Purp");
-  out.value("Cd", tx.purpose.c_str());
+  if (tx.purpose) write_code(out, "Purp", tx.purpose.c_str());
 }
 
-void write_remittance(document_writer& out, const ct_transaction& tx) {
+void write_remittance(document_writer& out, const document_schema& schema,
+                      const ct_transaction& tx) {
   const element remittance(out, "RmtInf", left_out_when_empty);
+  if (has_creditor_reference(schema, tx)) {
+    return write_creditor_reference(out, tx.creditor_reference);
+  }
   out.optional_escaped("Ustrd", tx.remittance);
 }
 
 void write_transaction(document_writer& out, const document_schema& schema,
                        const ct_transaction& tx) {
   const element transfer(out, "CdtTrfTxInf");
-  write_end_to_end_id(out, tx);
+  write_payment_ids(out, schema, tx);
   {
     const element amount(out, "Amt");
     write_amount(out, tx.amount);
   }
+  write_ultimate_party(out, "UltmtDbtr", schema, tx.ultimate_debtor);
   if (tx.bic) write_agent(out, "CdtrAgt", schema, tx.bic);
   write_creditor(out, schema, tx);
   write_account(out, "CdtrAcct", tx.iban);
+  write_ultimate_party(out, "UltmtCdtr", schema, tx.ultimate_creditor);
   write_purpose(out, tx);
-  write_remittance(out, tx);
+  write_remittance(out, schema, tx);
 }
 
 }  // namespace
@@ -74,6 +79,8 @@ bool cti_toXML(message& msg, xml_buffer_t& out) {
   const document_schema* const schema = schema_of(rulebook);
   if (!ensure_message_id(msg, moment)) return msg.fail("cti_toXML: strdup() failed");
   if (schema == nullptr) return fail_without_schema(msg);
+  const bool instant = msg.transfer_type == TIVEX_CT_INSTANT;
+  if (instant && !admits_instant_payments(msg)) return false;
 
   payment_blocks<ct_transaction> blocks;
   if (!blocks.group(msg, [](const ct_transaction& /*tx*/) { return 0; })) return false;
@@ -82,8 +89,10 @@ bool cti_toXML(message& msg, xml_buffer_t& out) {
                               .version = schema->credit_transfer,
                               .initiation = "CstmrCdtTrfInitn",
                               .typical_transaction_bytes = 1200,
-                              .moment = moment};
-  if (msg.strict != 0 && !schema_accepts(msg, form, blocks)) return false;
+                              .moment = moment,
+                              .strict = is_strict(msg, *schema),
+                              .local_instrument = instant ? "INST" : nullptr};
+  if (form.strict && !schema_accepts(msg, form, blocks)) return false;
   return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }
 

@@ -32,23 +32,23 @@ const char* local_instrument_of(const message& msg, const document_schema* schem
   return local_instruments[static_cast<std::size_t>(number)];
 }
 
-bool has_header(message& msg) {
+bool has_header(message& msg, const document_schema* schema) {
+  const bool bank_by_iban = schema != nullptr && schema->bank_by_iban;
   if (!msg.iban) return msg.fail("Missing creditor IBAN");
-  if (!msg.bic) return msg.fail("Missing creditor BIC");
+  if (!msg.bic && !bank_by_iban) return msg.fail("Missing creditor BIC");
   if (!msg.name) return msg.fail("Missing creditor name");
   if (!msg.creditor_id) return msg.fail("Missing creditor identifier");
   if (msg.tx_count == 0) return msg.fail("No transactions available");
   return true;
 }
 
-void write_payment_type(document_writer& out, const char* local_instrument, const char* sequence) {
+void write_payment_type(document_writer& out, const message& msg, const document_form& form,
+                        const char* sequence) {
   const element type(out, "PmtTpInf");
   write_service_level(out);
-  {
-    const element instrument(out, "LclInstrm");
-    out.value("Cd", local_instrument);
-  }
+  write_code(out, "LclInstrm", form.local_instrument);
   out.value("SeqTp", sequence);
+  write_category_purpose(out, msg, form.schema);
 }
 
 void write_creditor_scheme(document_writer& out, const owned_text& creditor_id) {
@@ -64,8 +64,7 @@ void write_creditor_scheme(document_writer& out, const owned_text& creditor_id) 
 void write_payment_header(document_writer& out, const message& msg, const document_form& form,
                           const payment_block<dd_transaction>& block, int number) {
   write_payment_start(out, msg, "DD", number, block.totals);
-  write_payment_type(out, form.local_instrument,
-                     sequence_texts[static_cast<std::size_t>(block.slot)]);
+  write_payment_type(out, msg, form, sequence_texts[static_cast<std::size_t>(block.slot)]);
   out.value("ReqdColltnDt", block.date);
   write_party(out, "Cdtr", msg.name);
   write_account(out, "CdtrAcct", msg.iban);
@@ -110,8 +109,7 @@ void write_debtor_agent(document_writer& out, const document_schema& schema,
   if (tx.bic) return write_agent(out, "DbtrAgt", schema, tx.bic);
   const element agent(out, "DbtrAgt");
   const element institution(out, "FinInstnId");
-  const element other(out, "Othr");
-  out.fixed("Id", "NOTPROVIDED");
+  write_no_bic(out);
 }
 
 void write_debtor(document_writer& out, const document_schema& schema, const dd_transaction& tx) {
@@ -120,22 +118,27 @@ void write_debtor(document_writer& out, const document_schema& schema, const dd_
   write_address(out, schema, tx);
 }
 
-void write_remittance(document_writer& out, const dd_transaction& tx) {
-  if (!tx.remittance) return;
+void write_remittance(document_writer& out, const document_schema& schema,
+                      const dd_transaction& tx) {
+  const bool referenced = has_creditor_reference(schema, tx);
+  if (!referenced && !tx.remittance) return;
   const element remittance(out, "RmtInf", left_out_when_empty);
+  if (referenced) return write_creditor_reference(out, tx.creditor_reference);
   out.escaped("Ustrd", tx.remittance.c_str());
 }
 
 void write_transaction(document_writer& out, const document_schema& schema,
                        const dd_transaction& tx) {
   const element debit(out, "DrctDbtTxInf");
-  write_end_to_end_id(out, tx);
+  write_payment_ids(out, schema, tx);
   write_amount(out, tx.amount);
   write_mandate(out, schema, tx);
+  write_ultimate_party(out, "UltmtCdtr", schema, tx.ultimate_creditor);
   write_debtor_agent(out, schema, tx);
   write_debtor(out, schema, tx);
   write_account(out, "DbtrAcct", tx.iban);
-  write_remittance(out, tx);
+  write_ultimate_party(out, "UltmtDbtr", schema, tx.ultimate_debtor);
+  write_remittance(out, schema, tx);
 }
 
 }  // namespace
@@ -143,7 +146,7 @@ void write_transaction(document_writer& out, const document_schema& schema,
 bool ddi_toXML(message& msg, xml_buffer_t& out) {
   const std::time_t moment = platform::now();
   const document_schema* const schema = schema_of(rulebook);
-  if (!has_header(msg)) return false;
+  if (!has_header(msg, schema)) return false;
   const char* const local_instrument = local_instrument_of(msg, schema);
   if (local_instrument == nullptr) {
     return msg.fail("Unknown/unsupported LocalInstrumentCode (setDDType)");
@@ -159,8 +162,9 @@ bool ddi_toXML(message& msg, xml_buffer_t& out) {
                               .initiation = "CstmrDrctDbtInitn",
                               .typical_transaction_bytes = 1500,
                               .moment = moment,
+                              .strict = is_strict(msg, *schema),
                               .local_instrument = local_instrument};
-  if (msg.strict != 0 && !schema_accepts(msg, form, blocks)) return false;
+  if (form.strict && !schema_accepts(msg, form, blocks)) return false;
   return write_initiation(msg, out, form, blocks, {write_payment_header, write_transaction});
 }
 

@@ -11,10 +11,10 @@ namespace tivex {
 namespace {
 
 // The number of transactions and the sum of their amounts.
-void write_totals(document_writer& out, const message& msg, const payment_totals& totals) {
+void write_totals(document_writer& out, const payment_totals& totals) {
   number_text text;
   out.value("NbOfTxs", format_count(text, sizeof text, totals.count));
-  out.value("CtrlSum", format_cents(text, sizeof text, stated_cents(msg, totals)));
+  out.value("CtrlSum", format_cents(text, sizeof text, stated_cents(out.strict(), totals)));
 }
 
 void write_payment_id(document_writer& out, const message& msg, int number) {
@@ -25,9 +25,8 @@ void write_payment_id(document_writer& out, const message& msg, int number) {
 
 }  // namespace
 
-std::int64_t stated_cents(const message& msg, const payment_totals& totals) {
-  const bool exact = msg.strict != 0 && !sum_flaw(totals.cents);
-  return exact ? totals.cents : cents_of(totals.sum);
+std::int64_t stated_cents(bool strict, const payment_totals& totals) {
+  return strict && !sum_flaw(totals.cents) ? totals.cents : cents_of(totals.sum);
 }
 
 bool fail_without_schema(message& msg) {
@@ -58,7 +57,7 @@ void write_group_header(document_writer& out, const message& msg, const payment_
   const element header(out, "GrpHdr");
   out.value("MsgId", msg.message_id.c_str());
   out.value("CreDtTm", created);
-  write_totals(out, msg, totals);
+  write_totals(out, totals);
   write_party(out, "InitgPty", msg.name);
 }
 
@@ -67,12 +66,19 @@ void write_payment_start(document_writer& out, const message& msg, std::string_v
   write_payment_id(out, msg, number);
   out.fixed("PmtMtd", method);
   out.fixed("BtchBookg", msg.batch_booking == 1 ? "true" : "false");
-  write_totals(out, msg, totals);
+  write_totals(out, totals);
 }
 
 void write_service_level(document_writer& out) {
   const element service_level(out, "SvcLvl");
   out.fixed("Cd", "SEPA");
+}
+
+void write_category_purpose(document_writer& out, const message& msg,
+                            const document_schema& schema) {
+  if (schema.further_elements && *msg.category_purpose != '\0') {
+    write_code(out, "CtgyPurp", msg.category_purpose);
+  }
 }
 
 void write_amount(document_writer& out, double amount) {

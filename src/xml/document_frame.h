@@ -18,7 +18,8 @@ struct document_form {
   const char* initiation;  // the element below Document
   std::uint64_t typical_transaction_bytes;
   std::time_t moment;
-  const char* local_instrument = nullptr;  // of direct debits
+  bool strict;                             // only what the schema accepts is written
+  const char* local_instrument = nullptr;  // null: none is written
 };
 
 // Notes that the selected rulebook has no schema, or that none is selected.
@@ -26,7 +27,7 @@ bool fail_without_schema(message& msg);
 
 // The sum in cents that a document states: the prescribed one, in the strict mode
 // the exact one where the schema has room for its digits.
-std::int64_t stated_cents(const message& msg, const payment_totals& totals);
+std::int64_t stated_cents(bool strict, const payment_totals& totals);
 
 // The attributes of the Document element.
 class document_attributes {
@@ -48,6 +49,16 @@ void write_payment_start(document_writer& out, const message& msg, std::string_v
 
 void write_service_level(document_writer& out);
 
+// The code of an element that holds nothing else.
+inline void write_code(document_writer& out, std::string_view element_name, const char* code) {
+  const element coded(out, element_name);
+  out.value("Cd", code);
+}
+
+// What the payments are for, as the message tells.
+void write_category_purpose(document_writer& out, const message& msg,
+                            const document_schema& schema);
+
 // An amount of a transaction in euro.
 void write_amount(document_writer& out, double amount);
 
@@ -59,13 +70,18 @@ struct payment_writer {
   void (*transaction)(document_writer& out, const document_schema& schema, const record& tx);
 };
 
+// Whether a message becomes only what the schema accepts.
+inline bool is_strict(const message& msg, const document_schema& schema) {
+  return msg.strict != 0 || schema.always_strict;
+}
+
 // Writes a whole document. False, with the reason in the message, when something
 // did not fit.
 template <class record>
 bool write_initiation(message& msg, xml_buffer_t& out, const document_form& form,
                       const payment_blocks<record>& blocks, const payment_writer<record>& write) {
   xml_buffer_expect(out, msg.tx_count * form.typical_transaction_bytes);
-  document_writer writer(out, msg.strict != 0);
+  document_writer writer(out, form.strict);
   {
     const document_attributes attributes(form);
     const element document(writer, "Document", attributes.c_str());

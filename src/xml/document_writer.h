@@ -38,6 +38,7 @@ class document_writer {
     append(failure::of_markup, "</", name, ">\n");
   }
   std::uint32_t position() const { return out_.length; }
+  bool strict() const { return strict_; }
 
   // An element whose content belongs to the document's form.
   [[gnu::always_inline]] void fixed(std::string_view name, std::string_view content) {

@@ -12,7 +12,7 @@ struct address_element {
   owned_text transaction::*value;
 };
 
-constexpr std::array<address_element, 14> structured_elements = {{
+constexpr std::array<address_element, 16> hybrid_elements = {{
     {"Dept", &transaction::addr_department},
     {"SubDept", &transaction::addr_sub_department},
     {"StrtNm", &transaction::addr_street},
@@ -27,23 +27,38 @@ constexpr std::array<address_element, 14> structured_elements = {{
     {"DstrctNm", &transaction::addr_district},
     {"CtrySubDvsn", &transaction::addr_country_subdivision},
     {"Ctry", &transaction::addr_country},
-}};
-
-constexpr std::array<address_element, 3> line_elements = {{
-    {"Ctry", &transaction::addr_country},
     {"AdrLine", &transaction::addr_line1},
     {"AdrLine", &transaction::addr_line2},
 }};
 
 std::span<const address_element> address_elements(const document_schema& schema) {
-  if (schema.structured_address) return structured_elements;
-  return line_elements;
+  constexpr std::size_t lines = 2;
+  const std::span<const address_element> all = hybrid_elements;
+  if (schema.hybrid_address) return all;
+  return schema.structured_address ? all.first(all.size() - lines) : all.last(lines + 1);
 }
 
 }  // namespace
 
+void write_creditor_reference(document_writer& out, const owned_text& reference) {
+  const element structured(out, "Strd");
+  const element information(out, "CdtrRefInf");
+  {
+    const element type(out, "Tp");
+    {
+      const element code(out, "CdOrPrtry");
+      out.fixed("Cd", "SCOR");
+    }
+    out.fixed("Issr", "ISO");
+  }
+  out.value("Ref", reference.c_str());
+}
+
 void write_address(document_writer& out, const document_schema& schema, const transaction& tx) {
-  if (!tx.addr_country && !tx.addr_town && !tx.addr_line1 && !tx.addr_line2) return;
+  const bool placed = tx.addr_country || tx.addr_town;
+  if (!placed && !tx.addr_line1 && !tx.addr_line2) return;
+  // The schema has no place for parts alone, which lines bring in the prescribed form.
+  if (!placed && out.strict() && schema.structured_address) return;
   const element address(out, "PstlAdr", left_out_when_empty);
   for (const address_element& part : address_elements(schema)) {
     out.optional_escaped(part.name, tx.*part.value);

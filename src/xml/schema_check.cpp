@@ -1,11 +1,13 @@
 #include "xml/schema_check.h"
 
+#include <algorithm>
 #include <array>
 #include <cinttypes>
 #include <cstring>
 #include <span>
 
 #include "transactions/address_fields.h"
+#include "transactions/eea.h"
 #include "xml/value_flaw.h"
 
 namespace tivex {
@@ -38,12 +40,41 @@ struct value_row {
   }
 };
 
+struct line_row {
+  const char* key;
+  owned_text transaction::*line;
+};
+constexpr line_row address_lines[] = {{"addrLine1", &transaction::addr_line1},
+                                      {"addrLine2", &transaction::addr_line2}};
+
+bool has_line(const transaction& tx) { return tx.addr_line1 || tx.addr_line2; }
+
+// The characters of address lines have been looked at when they were added.
+keyed_flaw find_line_flaw(const transaction& tx, const document_schema& schema) {
+  if (tx.addr_country && !has_line(tx) && schema.asks_for(DEMAND_LINE_WITH_COUNTRY)) {
+    return {"addrLine1", {flaw::missing}};
+  }
+  for (const auto& [key, line] : address_lines) {
+    const owned_text& held = tx.*line;
+    const value_flaw found = held ? blank_text_flaw(held.c_str(), schema) : value_flaw{};
+    if (found) return {key, found};
+  }
+  return {};
+}
+
 // An address with neither town nor country is not written where addresses are
-// structured, and where they are not, its parts have been looked at when they were
-// added.
+// structured; where they may have lines as well, anything of it asks for both.
+bool is_written(const transaction& tx, const document_schema& schema) {
+  if (tx.addr_town || tx.addr_country) return true;
+  const auto held = [&](const field_row& part) { return static_cast<bool>(tx.*part.destination); };
+  return schema.hybrid_address &&
+         (has_line(tx) || std::ranges::any_of(structured_address_fields.rows(), held));
+}
+
 template <class record>
 keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
-  if (!schema.structured_address || (!tx.addr_town && !tx.addr_country)) return {};
+  if (!schema.structured_address) return find_line_flaw(tx, schema);
+  if (!is_written(tx, schema)) return {};
   const bool needs_both = schema.asks_for(DEMAND_TOWN_AND_COUNTRY);
   for (const field_row& part : structured_address_fields.rows()) {
     const owned_text& held = tx.*part.destination;
@@ -52,7 +83,18 @@ keyed_flaw find_address_flaw(const record& tx, const document_schema& schema) {
     const value_flaw found = held ? escaped_text_flaw(held.c_str(), schema) : value_flaw{};
     if (found) return {part.key.data(), found};
   }
-  return {"addrCC", {!tx.addr_country && needs_both ? flaw::missing : flaw::none}};
+  if (!tx.addr_country && needs_both) return {"addrCC", {flaw::missing}};
+  return schema.hybrid_address ? find_line_flaw(tx, schema) : keyed_flaw{};
+}
+
+// A structured address has a town, or it is none.
+keyed_flaw find_outside_eea_flaw(const dd_transaction& tx, const document_schema& schema) {
+  const bool asked =
+      schema.asks_for(DEMAND_ADDRESS_OUTSIDE_EEA) && country_outside_eea(tx.iban.c_str());
+  if (!asked || (schema.structured_address ? static_cast<bool>(tx.addr_town) : has_line(tx))) {
+    return {};
+  }
+  return {schema.structured_address ? "addrTown" : "addrLine1", {flaw::not_given}};
 }
 
 template <class record>
@@ -60,19 +102,22 @@ keyed_flaw find_amount_flaw(const record& tx, const document_schema& schema) {
   return {"amount", amount_flaw(cents_of(tx.amount), schema)};
 }
 
+keyed_flaw find_count_flaw(const message& msg, const document_schema& schema) {
+  return {"transactions", count_flaw(msg.tx_count, schema)};
+}
+
 // Without transactions there is no payment block to hold the other values.
 constexpr auto credit_transfer_header = std::to_array<value_row<message>>({
-    {.examine =
-         [](const message& msg, const document_schema& /*schema*/) {
-           return keyed_flaw{"transactions", {msg.tx_count == 0 ? flaw::missing : flaw::none}};
-         }},
+    {.examine = find_count_flaw},
     {"IBAN", &message::iban, DEMAND_OWN_IBAN},
     {"BIC", &message::bic, DEMAND_OWN_BIC},
-    {"name", &message::name, DEMAND_NAMES},
+    {"name", &message::name, DEMAND_NAMES, blank_text_flaw},
 });
 
 // IBAN, BIC, name and a transaction have been asked for before, in any mode.
 constexpr auto direct_debit_header = std::to_array<value_row<message>>({
+    {.examine = find_count_flaw},
+    {"name", &message::name, DEMAND_NAMES, blank_text_flaw},
     {"creditor identifier", &message::creditor_id, DEMAND_NOTHING, creditor_identifier_flaw},
     {.examine =
          [](const message& msg, const document_schema& schema) {
@@ -82,26 +127,41 @@ constexpr auto direct_debit_header = std::to_array<value_row<message>>({
          }},
 });
 
+// So many rows at the end of both tables are of values that only some schemas have a
+// place for.
+constexpr std::size_t further_rows = 3;
+
 constexpr auto credit_transfer_rows = std::to_array<value_row<ct_transaction>>({
-    {"name", &ct_transaction::name, DEMAND_NAMES},
+    {"name", &ct_transaction::name, DEMAND_NAMES, blank_text_flaw},
     {"bic", &ct_transaction::bic, DEMAND_OTHER_BIC},
-    {.examine = find_address_flaw<ct_transaction>},
-    {"purp", &ct_transaction::purpose, DEMAND_NOTHING, plain_text_flaw},
+    {.examine = [](const ct_transaction& tx,
+                   const document_schema& schema) { return find_address_flaw(tx, schema); }},
+    {"purp", &ct_transaction::purpose, DEMAND_NOTHING, purpose_flaw},
     {.examine = find_amount_flaw<ct_transaction>},
     {"date", &ct_transaction::date, DEMAND_NOTHING, date_flaw},
     {"id", &ct_transaction::end_to_end_id, DEMAND_NOTHING, identifier_flaw},
+    {"ref", &ct_transaction::remittance, DEMAND_NOTHING, blank_text_flaw},
+    {"ultmtDbtr", &ct_transaction::ultimate_debtor, DEMAND_NOTHING, blank_text_flaw},
+    {"ultmtCdtr", &ct_transaction::ultimate_creditor, DEMAND_NOTHING, blank_text_flaw},
+    {"instrId", &ct_transaction::instruction_id, DEMAND_NOTHING, identifier_flaw},
 });
 
 constexpr auto direct_debit_rows = std::to_array<value_row<dd_transaction>>({
-    {"name", &dd_transaction::name, DEMAND_NAMES},
+    {"name", &dd_transaction::name, DEMAND_NAMES, blank_text_flaw},
     {"bic", &dd_transaction::bic, DEMAND_OTHER_BIC},
-    {.examine = find_address_flaw<dd_transaction>},
+    {.examine = [](const dd_transaction& tx,
+                   const document_schema& schema) { return find_address_flaw(tx, schema); }},
+    {.examine = find_outside_eea_flaw},
     {.examine = find_amount_flaw<dd_transaction>},
     {"date", &dd_transaction::date, DEMAND_NOTHING, date_flaw},
     {"id", &dd_transaction::end_to_end_id, DEMAND_NOTHING, identifier_flaw},
     {"mref", &dd_transaction::mandate_id, DEMAND_MANDATE, mandate_reference_flaw},
     {"mdate", &dd_transaction::mandate_date, DEMAND_MANDATE, date_flaw},
     {"old_mref", &dd_transaction::old_mandate_id, DEMAND_NOTHING, mandate_reference_flaw},
+    {"ref", &dd_transaction::remittance, DEMAND_NOTHING, blank_text_flaw},
+    {"ultmtDbtr", &dd_transaction::ultimate_debtor, DEMAND_NOTHING, blank_text_flaw},
+    {"ultmtCdtr", &dd_transaction::ultimate_creditor, DEMAND_NOTHING, blank_text_flaw},
+    {"instrId", &dd_transaction::instruction_id, DEMAND_NOTHING, identifier_flaw},
 });
 
 // Notes a flaw of the message itself (number 0) or of a transaction.
@@ -156,15 +216,17 @@ bool frame_accepted(message& msg, const document_form& form, const payment_block
   if (date) return refuse(msg, 0, {"date", date}, form.version);
   int count = 0;
   blocks.for_each([&count](const payment_block<record>& /*block*/, int number) { count = number; });
-  return has_room_for_payment_ids(msg, count, form.version);
+  if (!has_room_for_payment_ids(msg, count, form.version)) return false;
+  const value_flaw id = sepa_identifier_flaw(msg.message_id.c_str());
+  return !id || refuse(msg, 0, {"message id", id}, form.version);
 }
 
 // Sums come last: one that is too long may come from one amount.
 template <class record>
 bool sums_accepted(message& msg, const document_form& form, const payment_blocks<record>& blocks) {
-  value_flaw found = sum_flaw(stated_cents(msg, blocks.totals()));
+  value_flaw found = stated_sum_flaw(stated_cents(form.strict, blocks.totals()), form.schema);
   blocks.for_each([&](const payment_block<record>& block, int /*number*/) {
-    if (!found) found = sum_flaw(stated_cents(msg, block.totals));
+    if (!found) found = stated_sum_flaw(stated_cents(form.strict, block.totals), form.schema);
   });
   return !found || refuse(msg, 0, {"sum", found}, form.version);
 }
@@ -172,11 +234,13 @@ bool sums_accepted(message& msg, const document_form& form, const payment_blocks
 template <class record>
 bool transactions_accepted(message& msg, const document_form& form,
                            std::span<const value_row<record>> rows) {
+  const std::size_t left_out = form.schema.further_elements ? 0 : further_rows;
+  const auto written = rows.first(rows.size() - left_out);
   std::uint32_t number = 1;
   for (const auto* tx = first_transaction<record>(msg); tx != nullptr; tx = tx->next, ++number) {
     const bool lost = number == msg.lost.transaction;
     const keyed_flaw flawed =
-        lost ? keyed_flaw{msg.lost.key, {flaw::lost}} : first_flaw(*tx, form.schema, rows);
+        lost ? keyed_flaw{msg.lost.key, {flaw::lost}} : first_flaw(*tx, form.schema, written);
     if (flawed.found) return refuse(msg, number, flawed, form.version);
   }
   return true;

@@ -13,12 +13,12 @@ TEST(Rulebook, IsSelectedByItsExactName) {
     EXPECT_EQ(tivex_init(3, all_rulebooks[number].c_str()), 1);
     EXPECT_EQ(tivex::rulebook, static_cast<int>(number)) << all_rulebooks[number];
   }
-  for (const char* const name : {"de-3.7", "DE-3.7 ", " DE-3.7", "DE-3", ""}) {
+  for (const char* const name : {"de-3.7", "DE-3.7 ", " DE-3.7", "DE-3", "DE-26.1", ""}) {
     EXPECT_EQ(tivex_init(3, name), 0) << name;
   }
   EXPECT_EQ(tivex_init(3, nullptr), 0);
   for (const int option : {-1, 0, 4}) EXPECT_EQ(tivex_init(option, "DE-2.6"), 0);
-  EXPECT_EQ(tivex::rulebook, tivex::RULEBOOK_DE_3_7);
+  EXPECT_EQ(tivex::rulebook, tivex::RULEBOOK_DE_26_11);
 }
 
 TEST(Rulebook, DefaultFollowsTheLocalDateOfTheFirstMessage) {

@@ -59,10 +59,18 @@ pairs transaction(int type, const std::string& rulebook, const char* bic) {
   pairs list = {{"iban", "AT611904300234573201"}, {"amount", "12.50"}};
   if (debit) list.push_back({"seq", "RCUR"});
   list.insert(list.end(), {{"bic", bic}, {"name", "Ottokar Neu"}, {"date", "2026-12-01"}});
-  list.insert(list.end(), {{"ref", "Invoice 0234573201"}, {"id", "E1"}, {"addrCC", "AT"}});
+  const bool newest = rulebook == "DE-26.11";
+  if (newest) {
+    list.insert(list.end(), {{"cref", "RF18539007547034"}, {"instrId", "I1"}});
+    list.insert(list.end(), {{"ultmtDbtr", "Ottilie Alt"}, {"ultmtCdtr", "Quirin Neu"}});
+  } else {
+    list.push_back({"ref", "Invoice 0234573201"});
+  }
+  list.insert(list.end(), {{"id", "E1"}, {"addrCC", "AT"}});
   if (rulebook != "DE-3.7") {
     list.insert(list.end(), {{"addrLine1", "Am Tor 1"}, {"addrLine2", "1010 Wien"}});
-  } else {
+  }
+  if (newest || rulebook == "DE-3.7") {
     for (const char* const part :
          {"addrTown", "addrDept", "addrSubDept", "addrStreet", "addrFloor", "addrRoom", "addrBldg",
           "addrLoc", "addrDstrct", "addrCtrySub", "addrNum", "addrPoBox", "addrCode"}) {
@@ -109,8 +117,10 @@ void tell_losses(job& added, int type, const char* rulebook, const pairs& list,
   }
   if (add(msg, rest) != 1) return;  // then the disturbed call refuses it as well
   const std::string prescribed = told(call(tivex_toXML, msg.get()), msg) + '\n';
+  const bool always_strict = std::string(rulebook) == "DE-26.11";
   for (const std::string& key : lost) {
-    added.losses.push_back(prescribed + "none transaction 3: " + key + " lost (out of memory)\n");
+    const std::string strict = "none transaction 3: " + key + " lost (out of memory)\n";
+    added.losses.push_back((always_strict ? strict : prescribed) + strict);
   }
   const std::string texts = both_documents(msg);
   if (texts.compare(prescribed.size(), 5, "none ") == 0) added.losses.push_back(texts);
@@ -278,6 +288,8 @@ std::vector<job> all_jobs() {
       setter_job("setDate", tivex_setDate, "2026-12-02", {"0 strdup() failed"}),
       setter_job("setMessageId", tivex_setMessageId, "RUN 7", {"0 strdup() failed"}),
       setter_job("setDDType", tivex_setDDType, TIVEX_DD_B2B),
+      setter_job("setCTType refused", tivex_setCTType, TIVEX_CT_INSTANT),
+      setter_job("setCategoryPurpose", tivex_setCategoryPurpose, "SALA"),
       setter_job<unsigned char>("setBatchBooking", tivex_setBatchBooking, 0),
       setter_job<unsigned char>("setStrict", tivex_setStrict, 1),
       plain_job("init", tivex_init, TIVEX_OPTION_RULEBOOK, "AT-6"),
@@ -297,6 +309,8 @@ std::vector<job> all_jobs() {
         "0 Failed to allocate " TIVEX_STATEMENT_SIZE " bytes"}},
       add_job(TIVEX_CREDIT_TRANSFER, "DE-3.7", "BKAUATWW"),
       add_job(TIVEX_CREDIT_TRANSFER, "DE-3.5", "BKAUATWW"),
+      add_job(TIVEX_CREDIT_TRANSFER, "DE-26.11", "BKAUATWW"),
+      add_job(TIVEX_DIRECT_DEBIT, "DE-26.11", "BKAUATWW"),
       add_job(TIVEX_CREDIT_TRANSFER, "DE-2.6", "BKAUATWW", {"0 BIC missing"}),
       add_job(TIVEX_DIRECT_DEBIT, "DE-3.7", "UBSWCHZH",
               {"0 Structured address required for BICs outside EEA (at least town and country)"}),
@@ -310,7 +324,7 @@ std::vector<job> all_jobs() {
   }
   for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
     for (const char* const rulebook : {"DE-2.6", "DE-2.7", "DE-2.8", "DE-2.9", "DE-3.0", "DE-3.1",
-                                       "DE-3.5", "DE-3.7", "AT-6", "NL-6"}) {
+                                       "DE-3.5", "DE-3.7", "DE-26.11", "AT-6", "NL-6"}) {
       const pairs list = transaction(type, rulebook, "BKAUATWW");
       for (unsigned char strict = 0; strict <= 1; ++strict) {
         jobs.push_back(document_job(type, rulebook, strict, list, 3));

@@ -29,6 +29,13 @@ const std::vector<deviation> header_deviations = {
     {"setMessageId", std::string(32, 'm')},
     {"setMessageId", std::string(33, 'm')},
     {"setMessageId", " / : "},
+    {"setMessageId", "/M"},
+    {"setMessageId", "M/"},
+    {"setMessageId", "M//1"},
+    {"setMessageId", "  "},
+    {"setName", "  "},
+    {"setCreditorIdentifier", "DE98A|B09999999999"},
+    {"setCreditorIdentifier", "DE98A//09999999999"},
     {"setCreditorIdentifier", "DE98#*!09999999999"},
     {"setCreditorIdentifier", "DE98+-|09999999999"},
     {"setCreditorIdentifier", "DE98A A09999999999"},
@@ -45,6 +52,7 @@ const std::vector<deviation> header_deviations = {
     {"setDDType", "1"},
     {"setDDType", "2"},
     {"setBatchBooking", "0"},
+    {"setCategoryPurpose", "SALA"},
 };
 
 const std::vector<std::string> odd_texts = {"a\tb\nc",
@@ -71,6 +79,9 @@ const std::vector<std::string> odd_texts = {"a\tb\nc",
 const std::vector<deviation> transaction_deviations = {
     {"name", std::nullopt},
     {"name", "É"},
+    {"name", "  "},
+    {"iban", "CH9300762011623852957"},
+    {"iban", "GB29NWBK60161331926819"},
     {"name", "Ä & Ö <x> ]]>"},
     {"bic", std::nullopt},
     {"bic", "UBSWCHZH80A"},
@@ -100,12 +111,20 @@ const std::vector<deviation> transaction_deviations = {
     {"id", std::nullopt},
     {"id", " +?/-:().,' "},
     {"id", "A|B;C"},
+    {"id", "A|B"},
+    {"id", "/E/1"},
+    {"id", "E/1/"},
+    {"id", "E//1"},
+    {"id", "  "},
+    {"id", " /1/ "},
     {"id", "A<B"},
     {"id", "A>B"},
     {"id", "A]]>B"},
     {"id", "A<!--x-->B"},
     {"id", "10 €"},
     {"purp", "sala"},
+    {"purp", "SECU"},
+    {"purp", "ABCD"},
     {"purp", "    "},
     {"purp", "a<b&"},
     {"purp", "]]>x"},
@@ -116,11 +135,15 @@ const std::vector<deviation> transaction_deviations = {
     {"mref", std::nullopt},
     {"mref", "M 1"},
     {"mref", "M<1>"},
+    {"mref", "/M"},
+    {"mref", "M//1"},
+    {"mref", " "},
     {"mdate", std::nullopt},
     {"mdate", "2025-06-31"},
     {"mdate", "01.06.2025"},
     {"old_mref", "O{1}"},
     {"old_mref", "O<1"},
+    {"old_mref", "O/"},
     {"old_iban", "AT611904300234573201"},
     {"smnda", "1"},
     {"addrCC", std::nullopt},
@@ -128,6 +151,16 @@ const std::vector<deviation> transaction_deviations = {
     {"addrStreet", std::nullopt},
     {"addrLine1", std::nullopt},
     {"addrLine2", "Postfach"},
+    {"addrLine2", " "},
+};
+
+const std::vector<deviation> further_deviations = {
+    {"cref", "RF18539007547034"}, {"cref", "RF9854"},
+    {"ultmtDbtr", "Ä & Ö"},       {"ultmtDbtr", " "},
+    {"ultmtCdtr", "C"},           {"ultmtCdtr", "  "},
+    {"instrId", "I/1 "},          {"instrId", "/I"},
+    {"instrId", "I//1"},          {"instrId", " "},
+    {"addrTown", std::nullopt},   {"addrCC", std::nullopt},
 };
 
 class message_maker {
@@ -143,6 +176,7 @@ class message_maker {
                     {"setDate", "2026-12-01"},
                     {"setMessageId", "M 1"}};
     if (debit()) plan_.header.emplace_back("setCreditorIdentifier", "DE98ZZZ09999999999");
+    if (!debit() && further() && one_in(2)) plan_.header.emplace_back("setCTType", "1");
     const bool many_dates = one_in(16);
     const std::size_t count = many_dates ? 8 + one_of(4) : 1 + one_of(3);
     for (std::size_t number = 1; number <= count; ++number) {
@@ -164,6 +198,8 @@ class message_maker {
     return all[one_of(all.size())];
   }
   bool debit() const { return plan_.type == TIVEX_DIRECT_DEBIT; }
+  bool further() const { return plan_.made_under == "DE-26.11"; }
+  bool structured() const { return plan_.made_under == "DE-3.7" || further(); }
 
   static void set(std::vector<property>& values, const std::string& key,
                   const std::optional<std::string>& value) {
@@ -177,13 +213,20 @@ class message_maker {
                                 {"name", "Eva Alt"},
                                 {"bic", "BKAUATWW"},
                                 {"ref", "Invoice 7"}};
+    if (further() && one_in(2)) {
+      tx.back() = {"cref", "RF18539007547034"};
+      tx.emplace_back("ultmtDbtr", "Adam & Co");
+      tx.emplace_back("ultmtCdtr", "Haus");
+      tx.emplace_back("instrId", "I " + std::to_string(number));
+    }
     if (one_in(2)) tx.emplace_back("date", "2026-12-0" + std::to_string(1 + one_of(3)));
     if (one_in(2)) tx.emplace_back("id", "E-" + std::to_string(number));
     if (one_in(2)) tx.emplace_back("addrCC", "AT");
-    if (plan_.made_under == "DE-3.7") {
+    if (structured()) {
       if (tx.back().first == "addrCC") tx.emplace_back("addrTown", "Wien");
       if (one_in(2)) tx.emplace_back("addrStreet", "Ring 1");
-    } else if (one_in(2)) {
+    }
+    if ((!structured() || further()) && one_in(2)) {
       tx.emplace_back("addrLine1", "Ring 1");
     }
     if (!debit()) {
@@ -202,12 +245,14 @@ class message_maker {
       return set(plan_.header, odd.key, odd.value);
     }
     std::vector<property>& tx = plan_.transactions[one_of(plan_.transactions.size())];
-    if (plan_.made_under == "DE-3.7" && one_in(6)) {
+    if (structured() && one_in(6)) {
       set(tx, "addrCC", "AT");
       set(tx, "addrTown", "Wien");
       return set(tx, pick(structured_keys), pick(odd_texts));
     }
-    const deviation& odd = pick(transaction_deviations);
+    const deviation& odd =
+        pick(further() && one_in(4) ? further_deviations : transaction_deviations);
+    if (odd.key == "cref") set(tx, "ref", std::nullopt);
     const bool of_debits = odd.key.find('m') == 0 || odd.key.find("old") == 0 || odd.key == "smnda";
     if (of_debits != debit() && (of_debits || odd.key == "purp")) return;
     set(tx, odd.key, odd.value);

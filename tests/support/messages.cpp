@@ -7,8 +7,9 @@
 
 #include "support/table.h"
 
-const std::vector<std::string> all_rulebooks = {"DE-2.6", "DE-2.7", "AT-6",   "NL-6",   "DE-2.8",
-                                                "DE-2.9", "DE-3.0", "DE-3.1", "DE-3.5", "DE-3.7"};
+const std::vector<std::string> all_rulebooks = {"DE-2.6", "DE-2.7", "AT-6",    "NL-6",
+                                                "DE-2.8", "DE-2.9", "DE-3.0",  "DE-3.1",
+                                                "DE-3.5", "DE-3.7", "DE-26.11"};
 
 message_ptr new_message(int type, const std::string& rulebook) {
   EXPECT_EQ(tivex_init(TIVEX_OPTION_RULEBOOK, rulebook.c_str()), 1) << rulebook;
@@ -47,12 +48,17 @@ std::vector<std::pair<std::string, cell>> read_properties(const std::string& lis
 
 int call(const message_ptr& msg, const std::string& function, const char* value) {
   static const std::map<std::string, int (*)(tivex_t*, const char*)> setters = {
-      {"setIBAN", tivex_setIBAN}, {"setBIC", tivex_setBIC},
-      {"setName", tivex_setName}, {"setCreditorIdentifier", tivex_setCreditorIdentifier},
-      {"setDate", tivex_setDate}, {"setMessageId", tivex_setMessageId}};
+      {"setIBAN", tivex_setIBAN},
+      {"setBIC", tivex_setBIC},
+      {"setName", tivex_setName},
+      {"setCreditorIdentifier", tivex_setCreditorIdentifier},
+      {"setDate", tivex_setDate},
+      {"setMessageId", tivex_setMessageId},
+      {"setCategoryPurpose", tivex_setCategoryPurpose}};
   static const std::map<std::string, int (*)(tivex_t*, unsigned char)> modes = {
       {"setBatchBooking", tivex_setBatchBooking}, {"setStrict", tivex_setStrict}};
   if (function == "rulebook") return tivex_init(TIVEX_OPTION_RULEBOOK, value);
+  if (function == "setCTType") return tivex_setCTType(msg.get(), std::atoi(value));
   if (function == "setDDType") return tivex_setDDType(msg.get(), std::atoi(value));
   if (function == "toXML") return document_of(msg).empty() ? 0 : 1;
   if (const auto mode = modes.find(function); mode != modes.end()) {

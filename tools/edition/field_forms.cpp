@@ -86,6 +86,10 @@ bool is_number(std::string_view text) {
 bool is_account(std::string_view text) { return is_digits(text, 10); }
 bool is_prefix(std::string_view text) { return is_digits(text, 3) && text[0] != '0'; }
 
+bool is_purpose(std::string_view text) {
+  return text.size() == 4 && all_of(text, [](char c) { return is_digit(c) || is_capital(c); });
+}
+
 bool is_german_iban(std::string_view text) {
   constexpr std::size_t length = 22;
   if (text.size() != length || !text.starts_with("DE") || !all_of(text.substr(2), is_digit)) {

@@ -32,6 +32,7 @@ bool is_germany(std::string_view text);
 bool is_number(std::string_view text);       // without zeros in front
 bool is_account(std::string_view text);      // 10 digits
 bool is_prefix(std::string_view text);       // 3 digits, the first not 0
+bool is_purpose(std::string_view text);      // 4 capital letters or digits
 bool is_german_iban(std::string_view text);  // with right check digits
 
 // Text as a record can hold it: UTF-8 without control characters, '|' and

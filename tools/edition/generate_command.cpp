@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "edition_files.h"
+#include "purpose_table.h"
 #include "rule_tables.h"
 #include "table_sources.h"
 #include "whole_file.h"
@@ -43,6 +44,7 @@ int run(const generate_options& options) {
   write_files(source / "directory/data",
               generate_tables(read_edition(facts / "edition", faults), faults), faults);
   write_files(source / "de_iban/data", generate_rule_tables(facts / "iban_rules", faults), faults);
+  write_files(source / "xml/data", generate_purpose_table(facts / "purposes", faults), faults);
   for (const std::string& fault : faults.all()) std::cerr << fault << '\n';
   return faults.empty() ? 0 : 1;
 }
@@ -53,7 +55,7 @@ void add_generate(CLI::App& program, int& exit_status) {
   const auto options = std::make_shared<generate_options>();
   CLI::App* const command =
       program.add_subcommand("generate", "Write the library's tables from the edition's files");
-  command->add_option("--facts", options->facts, "Folder of edition and iban_rules")
+  command->add_option("--facts", options->facts, "Folder of edition, iban_rules and purposes")
       ->type_name("DIR")
       ->capture_default_str();
   command->add_option("--source", options->source, "Folder of the library's source")

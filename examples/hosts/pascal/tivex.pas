@@ -38,6 +38,9 @@ const
   TIVEX_DD_COR1 = 1;
   TIVEX_DD_B2B = 2;
 
+  TIVEX_CT_STANDARD = 0;
+  TIVEX_CT_INSTANT = 1;
+
   TIVEX_SCHEME_CREDIT_TRANSFER = $01;
   TIVEX_SCHEME_DEBIT_CORE = $02;
   TIVEX_SCHEME_DEBIT_B2B = $08;
@@ -174,6 +177,8 @@ function tivex_setCreditorIdentifier(msg: ptivex_t; id: PAnsiChar): cint; cdecl;
   external library_name;
 function tivex_setDate(msg: ptivex_t; date: PAnsiChar): cint; cdecl; external library_name;
 function tivex_setDDType(msg: ptivex_t; code: cint): cint; cdecl; external library_name;
+function tivex_setCTType(msg: ptivex_t; code: cint): cint; cdecl; external library_name;
+function tivex_setCategoryPurpose(msg: ptivex_t; code: PAnsiChar): cint; cdecl; external library_name;
 function tivex_setBatchBooking(msg: ptivex_t; mode: cuchar): cint; cdecl; external library_name;
 function tivex_setMessageId(msg: ptivex_t; id: PAnsiChar): cint; cdecl; external library_name;
 function tivex_setStrict(msg: ptivex_t; mode: cuchar): cint; cdecl; external library_name;
