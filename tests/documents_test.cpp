@@ -55,7 +55,7 @@ TEST(Documents, NeedARulebook) {
   for (const int type : {TIVEX_CREDIT_TRANSFER, TIVEX_DIRECT_DEBIT}) {
     const message_ptr msg = with_header(new_message(type));
     ASSERT_EQ(add(msg), 1);
-    for (const int unknown : {-1, 10}) {
+    for (const int unknown : {-1, 11}) {
       tivex::rulebook = unknown;
       EXPECT_EQ(document_of(msg), "");
       EXPECT_EQ(error_of(msg), "unknown/unsupported SEPA rulebook selected");

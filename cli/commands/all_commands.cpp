@@ -14,6 +14,7 @@
 #include "commands/help_format.h"
 #include "commands/iban_check.h"
 #include "commands/iban_convert.h"
+#include "commands/rulebooks.h"
 #include "commands/statement.h"
 
 namespace tivex_program {
@@ -43,6 +44,7 @@ void add_commands(CLI::App& program, int& exit_status) {
   program.footer(footer);
   add_payment_command(program, credit_transfer, exit_status);
   add_payment_command(program, direct_debit, exit_status);
+  add_rulebooks(program, exit_status);
   CLI::App* const ibans = program.add_subcommand("iban", "Work with IBANs");
   ibans->require_subcommand(1);
   ibans->footer(footer_of_ibans);

@@ -8,12 +8,18 @@
 namespace tivex_program {
 namespace {
 
+int set_instant(tivex_t* message, const char* /*value*/) {
+  return tivex_setCTType(message, TIVEX_CT_INSTANT);
+}
+
 constexpr header_option options[] = {
     name_option,
     {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
-    {"--bic", "BIC", "The account's bank; German banks ask for it", false, tivex_setBIC},
+    {"--bic", "BIC", "The account's bank; older German rulebooks ask for it", false, tivex_setBIC},
     {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
      tivex_setDate, date_fault},
+    {"--instant", nullptr, "Pay within seconds; with DE-26.11 only", false, set_instant},
+    category_purpose_option,
     message_id_option,
 };
 
@@ -34,7 +40,7 @@ writes payroll.xml and prints
   transactions    2
   sum             3200.00 EUR
   payment blocks  1
-  rulebook        DE-3.7 (pain.001.001.09)
+  rulebook        DE-26.11 (pain.001.001.09)
   schema          meets pain.001.001.09 (German subset)
   file            payroll.xml)";
 

@@ -25,13 +25,15 @@ int set_local_instrument(tivex_t* message, const char* value) {
 constexpr header_option options[] = {
     name_option,
     {"--iban", "IBAN", "Account that the collections are made for", true, tivex_setIBAN},
-    {"--bic", "BIC", "The account's bank", true, tivex_setBIC},
+    {"--bic", "BIC", "The account's bank; needed under all rulebooks but DE-26.11", false,
+     tivex_setBIC},
     {"--creditor-id", "ID", "Creditor identifier", true, tivex_setCreditorIdentifier,
      unescaped_fault},
     {"--type", "TYPE", "CORE (default), COR1 or B2B", false, set_local_instrument,
      local_instrument_fault},
     {"--date", "DATE", "Collection date of lines without one, yyyy-mm-dd (default: today)", false,
      tivex_setDate, date_fault},
+    category_purpose_option,
     message_id_option,
 };
 
@@ -60,7 +62,7 @@ writes fees.xml and prints
   transactions    2
   sum             144.00 EUR
   payment blocks  2
-  rulebook        DE-3.7 (pain.008.001.08)
+  rulebook        DE-26.11 (pain.008.001.08)
   schema          meets pain.008.001.08 (German subset)
   file            fees.xml)";
 

@@ -30,8 +30,11 @@ struct payment_arguments {
 };
 
 payment_header header_of(const payment_command& command, const payment_arguments& arguments) {
-  payment_header header{
-      command.transactions.message_type, {}, arguments.single_booking, !arguments.lenient};
+  payment_header header{command.transactions.message_type,
+                        arguments.rulebook,
+                        {},
+                        arguments.single_booking,
+                        !arguments.lenient};
   for (std::size_t i = 0; i < command.options.size(); ++i) {
     if (arguments.given[i]->count() == 0) continue;
     header.values.push_back({&command.options[i], arguments.header[i]});
@@ -47,14 +50,14 @@ std::string list_columns(std::span<const column> columns) {
 }
 
 int run(const payment_command& command, const payment_arguments& arguments) {
-  const payment_order order{header_of(command, arguments),
-                            {command.transactions, delimiters.at(arguments.delimiter),
-                             arguments.rulebook, !arguments.quiet},
-                            arguments.input,
-                            arguments.output,
-                            arguments.json ? fault_form::json : fault_form::text,
-                            arguments.all_faults ? fault_extent::all : fault_extent::first,
-                            !arguments.quiet};
+  const payment_order order{
+      header_of(command, arguments),
+      {command.transactions, delimiters.at(arguments.delimiter), !arguments.quiet},
+      arguments.input,
+      arguments.output,
+      arguments.json ? fault_form::json : fault_form::text,
+      arguments.all_faults ? fault_extent::all : fault_extent::first,
+      !arguments.quiet};
   const std::string fault = prepare(order);
   if (!fault.empty()) {
     print_error(fault);
@@ -77,14 +80,15 @@ void add_payment_command(CLI::App& program, const payment_command& command, int&
   for (std::size_t i = 0; i < command.options.size(); ++i) {
     const header_option& option = command.options[i];
     arguments->given.push_back(
-        parser->add_option(option.flag, arguments->header[i], option.description)
-            ->type_name(option.placeholder)
-            ->required(option.required));
+        option.is_flag() ? parser->add_flag(option.flag, option.description)
+                         : parser->add_option(option.flag, arguments->header[i], option.description)
+                               ->type_name(option.placeholder)
+                               ->required(option.required));
   }
   parser->add_flag("--single-booking", arguments->single_booking,
                    "Ask the bank to book the transactions singly");
   parser->add_flag("--lenient", arguments->lenient,
-                   "Write the document even if its schema would not accept it");
+                   "Write the document even if its schema would not accept it; not with DE-26.11");
   parser
       ->add_option("-o,--output", arguments->output,
                    "File to write (default: - for standard output)")

@@ -15,6 +15,19 @@ const column* find_column(std::span<const column> known, const std::string& name
   return found == known.end() ? nullptr : &*found;
 }
 
+bool is_known_to(const column& c, std::string_view rulebook) {
+  return c.only_rulebooks.empty() ||
+         std::ranges::find(c.only_rulebooks, rulebook) != c.only_rulebooks.end();
+}
+
+std::string rulebooks_of(const column& c) {
+  std::string names;
+  for (const std::string_view name : c.only_rulebooks) {
+    names.append(names.empty() ? "" : " or ").append(name);
+  }
+  return names;
+}
+
 std::string unknown_column(const std::string& name, std::span<const column> known) {
   if (name.empty()) return "column without a name";
   if (name.find_first_of(",;\t") != std::string::npos) {
@@ -37,8 +50,8 @@ std::vector<const column*> resolve_header(const csv_row& header, std::span<const
       faults.add(header.line, unknown_column(name, known));
     } else if (std::find(columns.begin(), columns.end(), found) != columns.end()) {
       faults.add(header.line, "column '" + name + "' occurs twice");
-    } else if (found->only_rulebook != nullptr && rulebook != found->only_rulebook) {
-      faults.add(header.line, "column '" + name + "' needs rulebook " + found->only_rulebook);
+    } else if (!is_known_to(*found, rulebook)) {
+      faults.add(header.line, "column '" + name + "' needs rulebook " + rulebooks_of(*found));
     }
     columns.push_back(found);
   }

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "files/csv_reader.h"
@@ -16,8 +17,8 @@ namespace tivex_program {
 struct column {
   const char* key;
   value_rule rule = text_fault;
-  // Set where the library ignores the key under every other rulebook.
-  const char* only_rulebook = nullptr;
+  // Set where the library ignores the key under all other rulebooks.
+  std::span<const std::string_view> only_rulebooks = {};
 };
 
 // Returns the columns that the header names, in its order; each name that is

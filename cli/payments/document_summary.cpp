@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "payments/rulebooks.h"
 #include "terminal/diagnostics.h"
 #include "terminal/json_object.h"
 #include "terminal/labelled_line.h"
@@ -41,13 +42,14 @@ constexpr const char* currency = "EUR";
 document_summary summarize(std::string_view document, const document_form& form) {
   const std::string_view header = between(document, "<GrpHdr>", "</GrpHdr>");
   const std::string message(between(document, ":xsd:", "\""));
-  const char* const subset = form.rulebook.starts_with("DE") ? " (German subset)" : "";
+  const std::string subset = subset_of(form.rulebook);
   return {number(between(header, "<NbOfTxs>", "<")),
           std::string(between(header, "<CtrlSum>", "<")),
           count_blocks(document),
           form.rulebook,
           message,
-          form.strict ? "meets " + message + subset : std::string()};
+          form.strict ? "meets " + message + (subset.empty() ? "" : " (" + subset + ")")
+                      : std::string()};
 }
 
 std::string text_of(const document_summary& summary, const std::string& file) {

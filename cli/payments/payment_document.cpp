@@ -57,7 +57,7 @@ bool write(const payment_order& order, std::string_view document) {
   std::string told;
   if (order.has_summary) {
     const document_summary summary =
-        summarize(document, {order.format.rulebook, order.header.strict});
+        summarize(document, {order.header.rulebook, order.header.strict});
     told = json ? json_of(summary, file) : text_of(summary, file);
   }
   const std::string name = to_file ? file : "standard output";
@@ -78,8 +78,11 @@ bool write(const payment_order& order, std::string_view document) {
 }  // namespace
 
 std::string prepare(const payment_order& order) {
-  const std::string unknown = select_rulebook(order.format.rulebook);
+  const std::string unknown = select_rulebook(order.header.rulebook);
   if (!unknown.empty()) return "--rulebook: " + unknown;
+  if (!order.header.strict && order.header.rulebook == newest_rulebook) {
+    return "--lenient: " + order.header.rulebook + " documents are always strict";
+  }
   std::string fault;
   make_message(order.header, fault);
   if (fault.empty()) fault = schema_probe(order.header, probing::first_fault).header_fault();

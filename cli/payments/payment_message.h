@@ -16,6 +16,7 @@ struct payment_header {
   };
 
   int message_type;
+  std::string rulebook;
   std::vector<value> values;  // those given
   bool single_booking;
   bool strict;

@@ -16,6 +16,14 @@ inline constexpr header_option name_option = {"--name", "NAME", "Name of the acc
 inline constexpr header_option message_id_option = {"--message-id", "ID",
                                                     "Identifier of the message (default: made up)",
                                                     false, tivex_setMessageId};
+inline constexpr header_option category_purpose_option = {
+    "--category-purpose",
+    "CODE",
+    "What all payments are for, such as SALA for salaries",
+    false,
+    tivex_setCategoryPurpose,
+    text_fault,
+    newest_rulebook};
 
 // The columns of every payment.
 inline constexpr std::array shared_columns = {
@@ -29,19 +37,23 @@ inline constexpr std::array shared_columns = {
     column{"addrCC"},
     column{"addrLine1"},
     column{"addrLine2"},
-    column{"addrDept", text_fault, structured_rulebook},
-    column{"addrSubDept", text_fault, structured_rulebook},
-    column{"addrStreet", text_fault, structured_rulebook},
-    column{"addrNum", text_fault, structured_rulebook},
-    column{"addrBldg", text_fault, structured_rulebook},
-    column{"addrFloor", text_fault, structured_rulebook},
-    column{"addrPoBox", text_fault, structured_rulebook},
-    column{"addrRoom", text_fault, structured_rulebook},
-    column{"addrCode", text_fault, structured_rulebook},
-    column{"addrTown", text_fault, structured_rulebook},
-    column{"addrLoc", text_fault, structured_rulebook},
-    column{"addrDstrct", text_fault, structured_rulebook},
-    column{"addrCtrySub", text_fault, structured_rulebook},
+    column{"addrDept", text_fault, structured_rulebooks},
+    column{"addrSubDept", text_fault, structured_rulebooks},
+    column{"addrStreet", text_fault, structured_rulebooks},
+    column{"addrNum", text_fault, structured_rulebooks},
+    column{"addrBldg", text_fault, structured_rulebooks},
+    column{"addrFloor", text_fault, structured_rulebooks},
+    column{"addrPoBox", text_fault, structured_rulebooks},
+    column{"addrRoom", text_fault, structured_rulebooks},
+    column{"addrCode", text_fault, structured_rulebooks},
+    column{"addrTown", text_fault, structured_rulebooks},
+    column{"addrLoc", text_fault, structured_rulebooks},
+    column{"addrDstrct", text_fault, structured_rulebooks},
+    column{"addrCtrySub", text_fault, structured_rulebooks},
+    column{"cref", text_fault, newest_rulebooks},
+    column{"ultmtDbtr", text_fault, newest_rulebooks},
+    column{"ultmtCdtr", text_fault, newest_rulebooks},
+    column{"instrId", text_fault, newest_rulebooks},
 };
 
 // Returns a command's own columns and behind them the shared ones.

@@ -11,7 +11,7 @@ namespace tivex_program {
 namespace {
 
 // The reasons that the library refuses a transaction for although each of its
-// values is right, and the key that it lacks.
+// values is right, and the key that it lacks, or has too many of.
 struct missing_value {
   std::string_view reason;
   const char* key;
@@ -23,6 +23,7 @@ constexpr missing_value missing_values[] = {
     {"Structured address required for BICs outside EEA (at least town and country)", "addrTown"},
     {"Sequence type missing", "seq"},
     {"Amount missing", "amount"},
+    {"Creditor reference and remittance information exclude each other", "cref"},
 };
 
 // The key that a transaction lacks when it is refused for a reason; null when the

@@ -7,10 +7,13 @@ struct header_value {
   std::string_view start;  // of the library's texts
   const char* option;
 };
-constexpr header_value header_values[] = {
-    {"message: IBAN ", "--iban: "}, {"message: BIC ", "--bic: "},
-    {"message: name ", "--name: "}, {"message: creditor identifier ", "--creditor-id: "},
-    {"message: date ", "--date: "}, {"message: message id ", "--message-id: "}};
+constexpr header_value header_values[] = {{"message: IBAN ", "--iban: "},
+                                          {"message: BIC ", "--bic: "},
+                                          {"message: name ", "--name: "},
+                                          {"message: creditor identifier ", "--creditor-id: "},
+                                          {"message: date ", "--date: "},
+                                          {"message: message id ", "--message-id: "},
+                                          {"Missing creditor BIC", "--bic: Missing creditor BIC"}};
 
 }  // namespace
 

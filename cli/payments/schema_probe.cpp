@@ -6,6 +6,7 @@
 
 #include "payments/document_room.h"
 #include "payments/library_calls.h"
+#include "payments/rulebooks.h"
 #include "payments/schema_flaw.h"
 #include "payments/sound_values.h"
 
@@ -18,14 +19,16 @@ constexpr std::size_t batch_size = 500;
 constexpr header_option probe_id = {"", "", "", false, tivex_setMessageId};
 
 // A structured address is written when it has a town or a country; otherwise its
-// other parts would be lost.
-bool loses_address(const csv_row& row, const std::vector<const column*>& columns) {
+// other parts would be lost, unless the rulebook asks for both.
+bool loses_address(const csv_row& row, const std::vector<const column*>& columns,
+                   std::string_view rulebook) {
+  if (rulebook != structured_rulebook) return false;
   bool has_parts = false;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     if (row.cells[i].empty()) continue;
     const std::string_view key = columns[i]->key;
     if (key == "addrCC" || key == "addrTown") return false;
-    has_parts = has_parts || columns[i]->only_rulebook != nullptr;
+    has_parts = has_parts || key.starts_with("addr");
   }
   return has_parts;
 }
@@ -38,7 +41,6 @@ schema_probe::schema_probe(payment_header header, probing extent)
 }
 
 std::string schema_probe::header_fault() const {
-  if (!header_.strict) return {};
   std::string fault;
   const message_handle message = make_message(header_, fault);
   std::vector<tivex_keyvalue_t> list(std::begin(sound_values), std::end(sound_values));
@@ -51,7 +53,7 @@ std::string schema_probe::header_fault() const {
 void schema_probe::add(csv_row& row, const std::vector<const column*>& columns,
                        fault_report& faults) {
   if (!header_.strict) return;
-  if (loses_address(row, columns)) {
+  if (loses_address(row, columns, header_.rulebook)) {
     finish(columns, faults);
     return faults.add(row.line, "addrTown", "missing (the address would not be written)");
   }

@@ -28,7 +28,7 @@ class schema_probe {
   // The header must have been set once without a fault.
   schema_probe(payment_header header, probing extent);
 
-  // What the schema refuses of the header, with the option; empty when nothing.
+  // What is refused of the header, with the option; empty when nothing.
   std::string header_fault() const;
 
   // Takes a row that the message has taken. Faults are reported in the order of
@@ -43,6 +43,8 @@ class schema_probe {
 
   // What the transactions looked at so far take in documents, without faults.
   std::uint64_t bytes() const { return bytes_; }
+
+  const std::string& rulebook() const { return header_.rulebook; }
 
  private:
   // The library's text when a message of these rows is refused, else empty.

@@ -41,7 +41,7 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
     return faults.add(input.error().empty() ? "no header" : input.error());
   }
   if (!row.fault.empty()) return faults.add(row.line, row.fault);
-  const auto columns = resolve_header(row, format.kind.columns, format.rulebook, faults);
+  const auto columns = resolve_header(row, format.kind.columns, probe.rulebook(), faults);
   if (!faults.empty()) return;
 
   progress_line progress(input.size(), format.shows_progress);

@@ -14,7 +14,6 @@ namespace tivex_program {
 struct row_format {
   const transaction_kind& kind;
   char delimiter;
-  std::string rulebook;
   bool shows_progress;
 };
 

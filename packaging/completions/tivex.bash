@@ -26,6 +26,7 @@ _tivex() {
     case "$path ${COMP_WORDS[i]}" in
       'tivex credit-transfer' | \
         'tivex direct-debit' | \
+        'tivex rulebooks' | \
         'tivex iban' | \
         'tivex iban check' | \
         'tivex iban convert' | \
@@ -40,21 +41,23 @@ _tivex() {
     esac
   done
   case "$path $before" in
-    'tivex credit-transfer --rulebook') _tivex_offer 'DE-2.6' 'DE-2.7' 'DE-2.8' 'DE-2.9' 'DE-3.0' 'DE-3.1' 'DE-3.5' 'DE-3.7' 'AT-6' 'NL-6' ;;
+    'tivex credit-transfer --rulebook') _tivex_offer 'DE-2.6' 'DE-2.7' 'DE-2.8' 'DE-2.9' 'DE-3.0' 'DE-3.1' 'DE-3.5' 'DE-3.7' 'DE-26.11' 'AT-6' 'NL-6' ;;
     'tivex credit-transfer --name') : ;;
     'tivex credit-transfer --iban') : ;;
     'tivex credit-transfer --bic') : ;;
     'tivex credit-transfer --date') : ;;
+    'tivex credit-transfer --category-purpose') : ;;
     'tivex credit-transfer --message-id') : ;;
     'tivex credit-transfer -o' | 'tivex credit-transfer --output') _tivex_offer_files ;;
     'tivex credit-transfer --delimiter') _tivex_offer ',' '\;' 'tab' ;;
-    'tivex direct-debit --rulebook') _tivex_offer 'DE-2.6' 'DE-2.7' 'DE-2.8' 'DE-2.9' 'DE-3.0' 'DE-3.1' 'DE-3.5' 'DE-3.7' 'AT-6' 'NL-6' ;;
+    'tivex direct-debit --rulebook') _tivex_offer 'DE-2.6' 'DE-2.7' 'DE-2.8' 'DE-2.9' 'DE-3.0' 'DE-3.1' 'DE-3.5' 'DE-3.7' 'DE-26.11' 'AT-6' 'NL-6' ;;
     'tivex direct-debit --name') : ;;
     'tivex direct-debit --iban') : ;;
     'tivex direct-debit --bic') : ;;
     'tivex direct-debit --creditor-id') : ;;
     'tivex direct-debit --type') _tivex_offer 'CORE' 'COR1' 'B2B' ;;
     'tivex direct-debit --date') : ;;
+    'tivex direct-debit --category-purpose') : ;;
     'tivex direct-debit --message-id') : ;;
     'tivex direct-debit -o' | 'tivex direct-debit --output') _tivex_offer_files ;;
     'tivex direct-debit --delimiter') _tivex_offer ',' '\;' 'tab' ;;
@@ -97,8 +100,9 @@ _tivex() {
 _tivex_offer_options() {
   case $1 in
       'tivex') _tivex_offer '-h' '--help' '--version' ;;
-      'tivex credit-transfer') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
-      'tivex direct-debit') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--creditor-id' '--type' '--date' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
+      'tivex credit-transfer') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--date' '--instant' '--category-purpose' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
+      'tivex direct-debit') _tivex_offer '-h' '--help' '--rulebook' '--name' '--iban' '--bic' '--creditor-id' '--type' '--date' '--category-purpose' '--message-id' '--single-booking' '--lenient' '-o' '--output' '--delimiter' '--json' '--quiet' '--all-faults' ;;
+      'tivex rulebooks') _tivex_offer '-h' '--help' '--json' ;;
       'tivex iban') _tivex_offer '-h' '--help' ;;
       'tivex iban check') _tivex_offer '-h' '--help' '--input' '--column' '--delimiter' '--json' ;;
       'tivex iban convert') _tivex_offer '-h' '--help' '--bank-code' '-o' '--output' '--quiet' '--input' '--column' '--delimiter' '--json' ;;
@@ -113,7 +117,7 @@ _tivex_offer_options() {
 
 _tivex_offer_arguments() {
   case $1 in
-    'tivex') _tivex_offer 'credit-transfer' 'direct-debit' 'iban' 'bank' 'account' 'statement' 'help' ;;
+    'tivex') _tivex_offer 'credit-transfer' 'direct-debit' 'rulebooks' 'iban' 'bank' 'account' 'statement' 'help' ;;
     'tivex credit-transfer') _tivex_offer_files ;;
     'tivex direct-debit') _tivex_offer_files ;;
     'tivex iban') _tivex_offer 'check' 'convert' 'bic' ;;
@@ -124,7 +128,7 @@ _tivex_offer_arguments() {
     'tivex account') _tivex_offer 'check' ;;
     'tivex account check') : ;;
     'tivex statement') _tivex_offer_files ;;
-    'tivex help') _tivex_offer 'credit-transfer' 'direct-debit' 'iban' 'bank' 'account' 'statement' 'help' ;;
+    'tivex help') _tivex_offer 'credit-transfer' 'direct-debit' 'rulebooks' 'iban' 'bank' 'account' 'statement' 'help' ;;
   esac
 }
 

@@ -7,7 +7,7 @@ function __tivex_at
     set -e words[1]
     for word in $words
         switch "$path $word"
-            case 'tivex credit-transfer' 'tivex direct-debit' 'tivex iban' 'tivex iban check' 'tivex iban convert' 'tivex iban bic' 'tivex bank' 'tivex account' 'tivex account check' 'tivex statement' 'tivex help'
+            case 'tivex credit-transfer' 'tivex direct-debit' 'tivex rulebooks' 'tivex iban' 'tivex iban check' 'tivex iban convert' 'tivex iban bic' 'tivex bank' 'tivex account' 'tivex account check' 'tivex statement' 'tivex help'
                 set path "$path $word"
         end
     end
@@ -17,6 +17,7 @@ end
 complete -c tivex -f
 complete -c tivex -n '__tivex_at "tivex"' -a credit-transfer -d 'Write a credit transfer document (pain.001) from a CSV file'
 complete -c tivex -n '__tivex_at "tivex"' -a direct-debit -d 'Write a direct debit document (pain.008) from a CSV file'
+complete -c tivex -n '__tivex_at "tivex"' -a rulebooks -d 'List the rulebooks with their schemas and what each admits'
 complete -c tivex -n '__tivex_at "tivex"' -a iban -d 'Work with IBANs'
 complete -c tivex -n '__tivex_at "tivex"' -a bank -d 'Find the bank behind a code'
 complete -c tivex -n '__tivex_at "tivex"' -a account -d 'Work with German account numbers'
@@ -25,14 +26,16 @@ complete -c tivex -n '__tivex_at "tivex"' -a help -d 'Show the help text of a co
 complete -c tivex -n '__tivex_at "tivex"' -s h -l help -d 'Print this help message and exit'
 complete -c tivex -n '__tivex_at "tivex"' -l version -d 'Display program version information and exit'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -s h -l help -d 'Print this help message and exit'
-complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l rulebook -x -a 'DE-2.6 DE-2.7 DE-2.8 DE-2.9 DE-3.0 DE-3.1 DE-3.5 DE-3.7 AT-6 NL-6' -d 'Rulebook: DE-2.6, DE-2.7, DE-2.8, DE-2.9, DE-3.0, DE-3.1, DE-3.5, DE-3.7, AT-6, NL-6'
+complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l rulebook -x -a 'DE-2.6 DE-2.7 DE-2.8 DE-2.9 DE-3.0 DE-3.1 DE-3.5 DE-3.7 DE-26.11 AT-6 NL-6' -d 'Rulebook: DE-2.6, DE-2.7, DE-2.8, DE-2.9, DE-3.0, DE-3.1, DE-3.5, DE-3.7, DE-26.11, AT-6, NL-6'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l name -x -d 'Name of the account'\''s holder'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l iban -x -d 'Account that the payments are made from'
-complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l bic -x -d 'The account'\''s bank; German banks ask for it'
+complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l bic -x -d 'The account'\''s bank; older German rulebooks ask for it'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l date -x -d 'Execution date of lines without one, yyyy-mm-dd (default: today)'
+complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l instant -d 'Pay within seconds; with DE-26.11 only'
+complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l category-purpose -x -d 'What all payments are for, such as SALA for salaries'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l message-id -x -d 'Identifier of the message (default: made up)'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l single-booking -d 'Ask the bank to book the transactions singly'
-complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l lenient -d 'Write the document even if its schema would not accept it'
+complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l lenient -d 'Write the document even if its schema would not accept it; not with DE-26.11'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -s o -l output -r -F -d 'File to write (default: - for standard output)'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l delimiter -x -a ', \; tab' -d 'What separates the cells: , ; or tab'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l json -d 'Tell summary and faults as JSON, one object a line; the summary goes to standard output when the document does not'
@@ -40,22 +43,25 @@ complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l quiet -d 'Print no 
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -l all-faults -d 'Tell every fault, not the first 20 and the number of the others'
 complete -c tivex -n '__tivex_at "tivex credit-transfer"' -F
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -s h -l help -d 'Print this help message and exit'
-complete -c tivex -n '__tivex_at "tivex direct-debit"' -l rulebook -x -a 'DE-2.6 DE-2.7 DE-2.8 DE-2.9 DE-3.0 DE-3.1 DE-3.5 DE-3.7 AT-6 NL-6' -d 'Rulebook: DE-2.6, DE-2.7, DE-2.8, DE-2.9, DE-3.0, DE-3.1, DE-3.5, DE-3.7, AT-6, NL-6'
+complete -c tivex -n '__tivex_at "tivex direct-debit"' -l rulebook -x -a 'DE-2.6 DE-2.7 DE-2.8 DE-2.9 DE-3.0 DE-3.1 DE-3.5 DE-3.7 DE-26.11 AT-6 NL-6' -d 'Rulebook: DE-2.6, DE-2.7, DE-2.8, DE-2.9, DE-3.0, DE-3.1, DE-3.5, DE-3.7, DE-26.11, AT-6, NL-6'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l name -x -d 'Name of the account'\''s holder'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l iban -x -d 'Account that the collections are made for'
-complete -c tivex -n '__tivex_at "tivex direct-debit"' -l bic -x -d 'The account'\''s bank'
+complete -c tivex -n '__tivex_at "tivex direct-debit"' -l bic -x -d 'The account'\''s bank; needed under all rulebooks but DE-26.11'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l creditor-id -x -d 'Creditor identifier'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l type -x -a 'CORE COR1 B2B' -d 'CORE (default), COR1 or B2B'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l date -x -d 'Collection date of lines without one, yyyy-mm-dd (default: today)'
+complete -c tivex -n '__tivex_at "tivex direct-debit"' -l category-purpose -x -d 'What all payments are for, such as SALA for salaries'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l message-id -x -d 'Identifier of the message (default: made up)'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l single-booking -d 'Ask the bank to book the transactions singly'
-complete -c tivex -n '__tivex_at "tivex direct-debit"' -l lenient -d 'Write the document even if its schema would not accept it'
+complete -c tivex -n '__tivex_at "tivex direct-debit"' -l lenient -d 'Write the document even if its schema would not accept it; not with DE-26.11'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -s o -l output -r -F -d 'File to write (default: - for standard output)'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l delimiter -x -a ', \; tab' -d 'What separates the cells: , ; or tab'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l json -d 'Tell summary and faults as JSON, one object a line; the summary goes to standard output when the document does not'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l quiet -d 'Print no summary and no progress, faults only'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -l all-faults -d 'Tell every fault, not the first 20 and the number of the others'
 complete -c tivex -n '__tivex_at "tivex direct-debit"' -F
+complete -c tivex -n '__tivex_at "tivex rulebooks"' -s h -l help -d 'Print this help message and exit'
+complete -c tivex -n '__tivex_at "tivex rulebooks"' -l json -d 'Print a JSON object a line'
 complete -c tivex -n '__tivex_at "tivex iban"' -a check -d 'Tell for each IBAN whether it is valid'
 complete -c tivex -n '__tivex_at "tivex iban"' -a convert -d 'Make IBANs of German bank codes and account numbers'
 complete -c tivex -n '__tivex_at "tivex iban"' -a bic -d 'Tell the BIC that belongs to an IBAN'
@@ -109,6 +115,7 @@ complete -c tivex -n '__tivex_at "tivex statement"' -F
 complete -c tivex -n '__tivex_at "tivex help"' -s h -l help -d 'Print this help message and exit'
 complete -c tivex -n '__tivex_at "tivex help"' -a credit-transfer -d 'Write a credit transfer document (pain.001) from a CSV file'
 complete -c tivex -n '__tivex_at "tivex help"' -a direct-debit -d 'Write a direct debit document (pain.008) from a CSV file'
+complete -c tivex -n '__tivex_at "tivex help"' -a rulebooks -d 'List the rulebooks with their schemas and what each admits'
 complete -c tivex -n '__tivex_at "tivex help"' -a iban -d 'Work with IBANs'
 complete -c tivex -n '__tivex_at "tivex help"' -a bank -d 'Find the bank behind a code'
 complete -c tivex -n '__tivex_at "tivex help"' -a account -d 'Work with German account numbers'

@@ -41,7 +41,8 @@ TEST_P(Killed, LeavesNoFileBeside) {
       "{ printf '\\n:20:A\\n:28C:1\\n'; yes ':61:261101C1,00NTRFNONREF' | head -n 9999; } >in.sta",
       "", directory);
   const std::string transfer =
-      "credit-transfer --name A --iban DE89370400440532013000 --message-id M --lenient in.csv -o "
+      "credit-transfer --name A --iban DE89370400440532013000 --message-id M --lenient --rulebook "
+      "DE-3.7 in.csv -o "
       "out.xml";
   run_and_kill("statement - <in.sta", GetParam(), directory);
   EXPECT_FALSE(has_temporary_file(directory / ""));

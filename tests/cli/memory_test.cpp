@@ -62,7 +62,7 @@ TEST_P(Memory, EndsWithOneLineAndTheOldFile) {
 
 INSTANTIATE_TEST_SUITE_P(
     Program, Memory,
-    testing::Values(job{"transfer --lenient payments -o out", "1500", "27000"},
+    testing::Values(job{"transfer --lenient --rulebook DE-3.7 payments -o out", "1500", "27000"},
                     job{"tivex iban convert accounts -o out", "1500", "27000"},
                     job{"tivex iban check - <ibans", "50", "16000"},
                     job{"tivex statement --format json statement", "1500", "27000"},

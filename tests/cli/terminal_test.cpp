@@ -49,7 +49,7 @@ class terminal_run {
 
 constexpr const char* transfer =
     "'" TIVEX_PROGRAM
-    "' credit-transfer --name A --iban DE89370400440532013000 --lenient - 2>% "
+    "' credit-transfer --name A --iban DE89370400440532013000 --lenient --rulebook DE-3.7 - 2>% "
     ">/dev/null";
 
 TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {

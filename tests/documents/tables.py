@@ -13,7 +13,7 @@ TOKENS = re.compile(
 # Texts with a blank that no host ever reads.
 UNSEEN_FILES = ("src/validation/iban_countries.h", "src/validation/iban_forms.h",
                 "src/validation/patterns.h")
-UNSEEN = re.compile(r"^( xmlns| Ccy|<\?xml)|^creditor identifier$|^local instrument$")
+UNSEEN = re.compile(r"^( xmlns| Ccy|<\?xml)|^(creditor identifier|local instrument|message id)$")
 
 
 def literals(text):
@@ -114,7 +114,9 @@ def kinds_of(cell):
 def try_value(library, kind, key, value):
     """The library's error under the rulebook that has the key."""
     lines = key.startswith("addrLine")
-    library.select("DE-2.9" if lines or key in ("mref", "old_mref") else "DE-3.7")
+    further = key in ("cref", "ultmtDbtr", "ultmtCdtr", "instrId")
+    library.select("DE-2.9" if lines or key in ("mref", "old_mref") else
+                   "DE-26.11" if further else "DE-3.7")
     return library.add(kind, dict(SOUND if kind == CREDIT_TRANSFER else SOUND_DEBIT, **{key: value}))
 
 
@@ -174,7 +176,9 @@ def rulebook_row(library, name):
                  library.document(DIRECT_DEBIT, SOUND_DEBIT)[0]]
     versions = [re.search(r":xsd:(pain[0-9.]*)", text)[1] for text in documents]
     nameless = {key: value for key, value in SOUND.items() if key != "name"}
-    german = library.document(CREDIT_TRANSFER, nameless, strict=1)[0] is None
+    subset = library.document(CREDIT_TRANSFER, nameless, strict=1)[0] is None
+    of = "Austrian" if library.document(CREDIT_TRANSFER, dict(SOUND, purp="ZZZZ"),
+                                        strict=1)[0] is None else "German"
     swiss = {"bic": "SNBZCHZZXXX"}
     outside = ("nothing" if taken(DIRECT_DEBIT, **swiss) else
                "an address line" if taken(DIRECT_DEBIT, addrLine1="A", **swiss) else
@@ -182,14 +186,15 @@ def rulebook_row(library, name):
     yes_no = {True: "yes", False: "no"}
     return [
         *versions,
-        ("ISO, German subset" if re.search(r"\.001\.0[1-9]$", versions[0]) and german
-         and not re.search(r"00[23]\.03", versions[0]) else "German" if german else "ISO"),
+        (f"ISO, {of} subset" if re.search(r"\.001\.0[1-9]$", versions[0]) and subset
+         and not re.search(r"00[23]\.03", versions[0]) else of if subset else "ISO"),
         "optional" if taken(CREDIT_TRANSFER, bic=None) else "required",
         ("wide" if taken(CREDIT_TRANSFER, name="A [€]") else
          "German" if taken(CREDIT_TRANSFER, name="A & Ä") else "plain"),
         yes_no[taken(DIRECT_DEBIT, ("tivex_setDDType", 1))],
         yes_no[taken(DIRECT_DEBIT, mref="a b")],
-        "parts" if not taken(CREDIT_TRANSFER, addrLine1="A") else "lines",
+        ", ".join(["parts"] * taken(DIRECT_DEBIT, addrTown="A") +
+                  ["lines"] * taken(DIRECT_DEBIT, addrLine1="A")),
         outside,
     ]
 

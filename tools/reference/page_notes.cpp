@@ -53,8 +53,10 @@ constexpr note variables[] = {
 constexpr note written_files[] = {
     {"--output", "FILE",
      "The file of --output is replaced as a whole, or stays as it was when anything fails."},
-    {"tivex-edition", "data/edition, data/iban_rules", "The facts, one table a file."},
-    {"tivex-edition", "src/directory/data, src/de_iban/data", "The library's tables."},
+    {"tivex-edition", "data/edition, data/iban_rules, data/purposes",
+     "The facts, one table a file."},
+    {"tivex-edition", "src/directory/data, src/de_iban/data, src/xml/data",
+     "The library's tables."},
 };
 
 bool has_option(const command& of, const char* name) {
