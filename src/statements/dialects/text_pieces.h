@@ -56,6 +56,8 @@ struct text_piece {
   std::size_t length;
   text_target target;
   char separator;  // in front of it; NUL for none
+  // Bytes that nobody sets would be copied with what stood in their place before.
+  char unused[sizeof(char*) - 2] = {};
 };
 
 // The pieces of one entry after the other; memory is taken where one has many.
