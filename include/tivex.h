@@ -652,6 +652,25 @@ TIVEX_API int tivex_bic_getBank(const char *bic, tivex_bank_info_t **info);
  */
 TIVEX_API int tivex_bankid_getMethod(const char *bank_code);
 
+/**
+ * Tells whether a German bank code is marked for deletion, that is given up already or
+ * about to be, and which bank code has taken over. As with the lookups above it is the
+ * data that holds now.
+ *
+ * @param bank_code 8 bytes; zeros on the left may be left out.
+ * @param successor 9 bytes that receive the bank code that has taken over, 8 digits and a
+ *        NUL; an empty text when the directory names none and when the bank code is not
+ *        in it; or null. It is the direct successor, which may have one of its own: ask
+ *        again with it. tivex_iban_convert follows all of them, marked or not.
+ *
+ * Returns 1 (marked), 0 (in the directory, not marked; a successor that is named all the
+ * same is told, today's directory has no such bank code) or -2 (not in the directory, also
+ * for a null, empty or too long bank code).
+ *
+ * An addition, there since revision 2.28-1.
+ */
+TIVEX_API int tivex_bankid_getSuccessor(const char *bank_code, char *successor);
+
 /** @} */
 
 /**

@@ -131,6 +131,10 @@ namespace Tivex
             out OwnedBlock info);
         [DllImport(Library, CallingConvention = C)]
         public static extern int tivex_bankid_getMethod([MarshalAs(Utf8)] string bankCode);
+        // successor: 9 bytes.
+        [DllImport(Library, CallingConvention = C)]
+        public static extern int tivex_bankid_getSuccessor([MarshalAs(Utf8)] string bankCode,
+            byte[] successor);
 
         [DllImport(Library, CallingConvention = C)]
         public static extern int tivex_account_check([MarshalAs(Utf8)] string account,

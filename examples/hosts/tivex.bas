@@ -141,6 +141,8 @@ Public Declare PtrSafe Function tivex_bankid_check Lib "tivex.dll" (ByVal countr
 Public Declare PtrSafe Function tivex_iban_getBank Lib "tivex.dll" (ByVal iban As LongPtr, ByRef info As LongPtr) As Long
 Public Declare PtrSafe Function tivex_bic_getBank Lib "tivex.dll" (ByVal bic As LongPtr, ByRef info As LongPtr) As Long
 Public Declare PtrSafe Function tivex_bankid_getMethod Lib "tivex.dll" (ByVal bank_code As LongPtr) As Long
+' successor: an array of 9 bytes.
+Public Declare PtrSafe Function tivex_bankid_getSuccessor Lib "tivex.dll" (ByVal bank_code As LongPtr, ByVal successor As LongPtr) As Long
 
 Public Declare PtrSafe Function tivex_account_check Lib "tivex.dll" (ByVal account As LongPtr, ByVal method As Long) As Long
 Public Declare PtrSafe Function tivex_account_check2 Lib "tivex.dll" (ByVal account As LongPtr, ByVal bank_code As LongPtr, ByVal method As Long) As Long

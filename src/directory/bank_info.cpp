@@ -1,4 +1,5 @@
 // The exported lookups: a directory record as one block of the host's own.
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -17,6 +18,8 @@ enum bank_result {
   NOT_FOUND = -2,
   NO_MEMORY = -3
 };
+
+enum deletion_mark { MARKED = 1, NOT_MARKED = 0 };
 
 // Makes the block: the fixed fields, behind them the texts.
 bank_result hand_out(const bank_record& record, tivex_bank_info_t*& info) {
@@ -47,6 +50,13 @@ bank_result hand_out(const bank_record& record, tivex_bank_info_t*& info) {
   block->flags = record.scheme_flags;
   info = block;
   return FOUND;
+}
+
+// Finds what a host names by a text of its own.
+bool find_german_bank(const char* bank_code, german_bank& bank) {
+  if (bank_code == nullptr) return false;
+  const std::size_t length = strnlen(bank_code, widest_bank_code + 1);
+  return directory_find_german_bank({bank_code, length}, bank);
 }
 
 }  // namespace
@@ -80,8 +90,19 @@ int tivex_bic_getBank(const char* bic, tivex_bank_info_t** info) {
 
 int tivex_bankid_getMethod(const char* bank_code) {
   tivex::german_bank bank;
-  if (bank_code == nullptr) return tivex::NOT_FOUND;
-  const std::size_t length = strnlen(bank_code, tivex::widest_bank_code + 1);
-  if (!tivex::directory_find_german_bank({bank_code, length}, bank)) return tivex::NOT_FOUND;
+  if (!tivex::find_german_bank(bank_code, bank)) return tivex::NOT_FOUND;
   return bank.method;
+}
+
+int tivex_bankid_getSuccessor(const char* bank_code, char* successor) {
+  tivex::german_bank bank;
+  const bool found = tivex::find_german_bank(bank_code, bank);
+  if (successor != nullptr) {
+    // No more than fits: the directory's own check holds successors to this width.
+    const std::size_t length = std::min(bank.successor.size(), tivex::widest_bank_code);
+    if (length > 0) std::memcpy(successor, bank.successor.data(), length);
+    successor[length] = '\0';
+  }
+  if (!found) return tivex::NOT_FOUND;
+  return bank.deleted ? tivex::MARKED : tivex::NOT_MARKED;
 }

@@ -168,6 +168,7 @@ bool directory_find_german_bank(std::string_view bank_code, german_bank& bank) {
   if (index == none) return false;
   const char* const version = current_version(index);
   read_german_block(version, bank.method, bank.iban_rule);
+  bank.deleted = byte_at(version, 0) != 0;
   bank.successor = {};
   const char* const successor = version + german_block_length;
   if (*successor != field_separator) {

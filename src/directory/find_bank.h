@@ -22,6 +22,7 @@ int directory_find_bank(const char* country, const char* bank_code, bank_record*
 struct german_bank {
   std::uint8_t method = 0;     // check-digit method, as its two hexadecimal digits
   std::int32_t iban_rule = 0;  // rule * 100 + version
+  bool deleted = false;        // marked for deletion
   std::string_view successor;  // bank code that took over, or empty
 };
 

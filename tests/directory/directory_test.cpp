@@ -65,6 +65,15 @@ std::string bank_of_iban(const char* iban) {
   return found([&](tivex_bank_info_t** slot) { return tivex_iban_getBank(iban, slot); });
 }
 
+// The result and the successor.
+std::string successor_of(const char* code) {
+  char text[] = "untouched!";
+  const int result = tivex_bankid_getSuccessor(code, text);
+  EXPECT_EQ(tivex_bankid_getSuccessor(code, nullptr), result) << "without a text";
+  EXPECT_EQ(text[9], '!');
+  return std::to_string(result) + ' ' + text;
+}
+
 std::string fields_of(const tivex_edition::bank_row& entry) {
   return "1 " + entry.bic + '|' + entry.name + '|' + entry.postcode + '|' + entry.city + '|' +
          entry.country + "|0";
@@ -76,6 +85,8 @@ void expect_german(const tivex_edition::german_row& entry) {
   ASSERT_EQ(tivex::directory_find_bank("DE", entry.bank_code.c_str(), &record), 1);
   EXPECT_EQ(record.successor, entry.successor);
   EXPECT_EQ(tivex_bankid_getMethod(entry.bank_code.c_str()), record.method);
+  EXPECT_EQ(successor_of(entry.bank_code.c_str()), (entry.deleted ? "1 " : "0 ") + entry.successor)
+      << entry.bank_code;
   EXPECT_EQ(record.method, std::stoi(entry.method, nullptr, 16)) << entry.bank_code;
   EXPECT_EQ(record.iban_rule, entry.iban_rule) << entry.bank_code;
   EXPECT_EQ(record.scheme_flags, 0);
@@ -123,10 +134,15 @@ TEST(Directory, FindsAndRefusesAsTold) {
               r[3].str())
         << call << ' ' << r[1].str() << ' ' << r[2].str();
   }
-  for (const char* const unknown : {"99999999", "100000000", ""}) {
+  constexpr const char* unknown_codes[] = {"99999999", "100000000", "250502990",
+                                           "2505029x", "",          nullptr};
+  for (const char* const unknown : unknown_codes) {
     EXPECT_EQ(tivex_bankid_getMethod(unknown), -2);
+    EXPECT_EQ(successor_of(unknown), "-2 ");
   }
-  EXPECT_EQ(tivex_bankid_getMethod(nullptr), -2);
+  EXPECT_EQ(successor_of("25050299"), "1 25050180");
+  EXPECT_EQ(successor_of("10090300"), "1 ");
+  EXPECT_EQ(successor_of("10000000"), "0 ");
   tivex::bank_record record;
   ASSERT_EQ(tivex::directory_find_bank("DE", "10000000", &record), 1);
   EXPECT_EQ(std::to_string(record.method) + ' ' + std::to_string(record.iban_rule), "9 4201");

@@ -16,6 +16,7 @@ static void expect(int holds, const char *what) {
 
 static void look_banks_up(void) {
   tivex_bank_info_t *bank = NULL;
+  char successor[9];
   expect(tivex_bankid_check("DE", "10000000", &bank) == 1, "the Bundesbank is found");
   if (bank == NULL) return;
   expect(strcmp(bank->name, "Bundesbank") == 0, "its name");
@@ -29,6 +30,8 @@ static void look_banks_up(void) {
   expect((bank->flags & TIVEX_SCHEME_CREDIT_TRANSFER) != 0, "it takes credit transfers");
   free(bank);
   expect(tivex_bankid_getMethod("37040044") == 0x13, "the method of a bank");
+  expect(tivex_bankid_getSuccessor("25050299", successor) == 1, "a bank code is marked");
+  expect(strcmp(successor, "25050180") == 0, "its successor");
   expect(strstr(tivex_edition_str, " DE ") != NULL, "the edition names its sizes");
 }
 

@@ -233,6 +233,7 @@ int convert(char* text) {
   return tivex_iban_convert("DE", "532013000", "37040044", text, &status);
 }
 int bic_of_iban(char* text) { return tivex_iban_getBIC(iban, text); }
+int successor(char* text) { return tivex_bankid_getSuccessor("25050299", text); }
 
 template <class holder, class function, class... values>
 job new_job(const std::string& name, function* create, values... arguments) {
@@ -296,6 +297,7 @@ std::vector<job> all_jobs() {
       plain_job("account_check", tivex_account_check, "9290701", 0),
       plain_job("account_check2", tivex_account_check2, "43001500", "13051172", 0x52),
       plain_job("bankid_getMethod", tivex_bankid_getMethod, "37040044"),
+      text_job("bankid_getSuccessor", successor),
       text_job("iban_convert", convert),
       text_job("iban_getBIC", bic_of_iban),
       lookup_job("bankid_check", by_bank_code),

@@ -196,6 +196,9 @@ function tivex_iban_getBank(iban: PAnsiChar; info: pptivex_bank_info_t): cint; c
 function tivex_bic_getBank(bic: PAnsiChar; info: pptivex_bank_info_t): cint; cdecl;
   external library_name;
 function tivex_bankid_getMethod(bank_code: PAnsiChar): cint; cdecl; external library_name;
+{ successor: 9 bytes or nil. }
+function tivex_bankid_getSuccessor(bank_code, successor: PAnsiChar): cint; cdecl;
+  external library_name;
 
 function tivex_account_check(account: PAnsiChar; method: cint): cint; cdecl;
   external library_name;
