@@ -6,8 +6,9 @@
 
 #include "banks/iban_conversion.h"
 #include "files/column_reader.h"
-#include "files/csv_cell.h"
 #include "files/csv_reader.h"
+#include "files/grouped_code.h"
+#include "files/text_encoding.h"
 #include "terminal/json_object.h"
 #include "terminal/progress_line.h"
 
@@ -16,25 +17,29 @@ namespace {
 
 const std::vector<std::string> added_columns = {"iban", "bic", "bank", "status"};
 
-void append_row(std::string& text, const std::vector<std::string>& cells,
-                const std::vector<std::string>& added, char delimiter) {
-  bool first = true;
-  for (const std::vector<std::string>* part : {&cells, &added}) {
-    for (const std::string& cell : *part) {
-      if (!first) text += delimiter;
-      first = false;
-      text += csv_cell(cell, delimiter);
-    }
-  }
-  text += '\n';
-}
-
 struct conversion_columns {
   std::size_t bank_code = 0;
   std::size_t account = 0;
   std::size_t header_size = 0;
   std::string fault;  // why the header is no good, empty when it is
 };
+
+void append_row(std::string& text, const std::vector<std::string>& cells,
+                const std::vector<std::string>& added, const conversion_columns& columns,
+                const table_style& style) {
+  bool first = true;
+  const auto append = [&](const std::string& cell, cell_kind kind) {
+    if (!first) text += style.delimiter;
+    first = false;
+    text += table_cell(cell, kind, style);
+  };
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const bool is_code = i == columns.bank_code || i == columns.account;
+    append(cells[i], is_code ? cell_kind::text : cell_kind::unknown);
+  }
+  for (const std::string& cell : added) append(cell, cell_kind::text);
+  text += '\n';
+}
 
 conversion_columns find_columns(const csv_row& header) {
   conversion_columns columns;
@@ -68,7 +73,8 @@ iban_conversion convert_row(const csv_row& row, const conversion_columns& column
     conversion.status = "line " + std::to_string(row.line) + ": " + row.fault;
   }
   if (!conversion.status.empty()) return conversion;
-  return convert_account(row.cells[columns.bank_code], row.cells[columns.account]);
+  return convert_account(joined_groups(row.cells[columns.bank_code]),
+                         joined_groups(row.cells[columns.account]));
 }
 
 void append_object(std::string& text, const csv_row& row, const conversion_columns& columns,
@@ -89,10 +95,11 @@ void append_object(std::string& text, const csv_row& row, const conversion_colum
 
 }  // namespace
 
-conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
-                               const line_taker& take, bool shows_progress) {
+conversion_totals convert_rows(input_file& input, const table_wishes& wishes, conversion_form form,
+                               table_style style, const line_taker& take, bool shows_progress) {
   conversion_totals totals;
-  csv_reader reader(input, delimiter);
+  csv_reader reader(input, wishes);
+  if (style.delimiter == '\0') style.delimiter = reader.separator();
   csv_row row;
   if (!reader.next(row)) {
     totals.error = input.name() + ": " + (input.error().empty() ? "no header" : input.error());
@@ -107,16 +114,26 @@ conversion_totals convert_rows(input_file& input, char delimiter, conversion_for
     return totals;
   }
   std::string text;
-  if (as_csv) append_row(text, row.cells, added_columns, delimiter);
+  if (as_csv) {
+    text = table_opening(style);
+    append_row(text, row.cells, added_columns, columns, style);
+  }
   progress_line progress(input.size(), shows_progress);
   while (take(text) && reader.next(row)) {
-    const iban_conversion conversion = convert_row(row, columns);
+    iban_conversion conversion;
+    if (std::ranges::all_of(row.cells, [](const std::string& cell) { return is_utf8(cell); })) {
+      conversion = convert_row(row, columns);
+    } else {
+      conversion.status = "not in the encoding of the lines before";
+      for (std::string& cell : row.cells) cell = to_utf8(cell, text_encoding::utf8);
+    }
     ++(conversion.made() ? totals.converted : totals.refused);
     text.clear();
     if (as_csv) {
       row.cells.resize(std::max(row.cells.size(), columns.header_size));
       append_row(text, row.cells,
-                 {conversion.iban, conversion.bic, conversion.bank, conversion.status}, delimiter);
+                 {conversion.iban, conversion.bic, conversion.bank, conversion.status}, columns,
+                 style);
     } else {
       append_object(text, row, columns, conversion);
     }

@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "files/input_file.h"
+#include "files/table_form.h"
+#include "files/table_style.h"
 
 namespace tivex_program {
 
@@ -22,9 +24,9 @@ struct conversion_totals {
 // Takes a line, and false ends the conversion.
 using line_taker = std::function<bool(std::string_view line)>;
 
-// Makes the IBANs of a CSV file's bank codes and accounts. Rows that cannot be converted
-// stay, with the reason as their status.
-conversion_totals convert_rows(input_file& input, char delimiter, conversion_form form,
-                               const line_taker& take, bool shows_progress);
+// Makes the IBANs of a table's bank codes and accounts. Rows that cannot be converted stay, with
+// the reason as their status. A style without a delimiter takes that of the table.
+conversion_totals convert_rows(input_file& input, const table_wishes& wishes, conversion_form form,
+                               table_style style, const line_taker& take, bool shows_progress);
 
 }  // namespace tivex_program

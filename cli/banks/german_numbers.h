@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "files/grouped_code.h"
 #include "terminal/diagnostics.h"
 
 namespace tivex_program {
@@ -19,8 +20,9 @@ inline bool is_german_bank_code(std::string_view text) { return is_number(text, 
 inline constexpr const char* account_wanted = "not a number of 1 to 10 digits";
 inline constexpr const char* bank_code_wanted = "not a number of 8 digits";
 
-// For the option that takes a bank code; empty when nothing is wrong.
-inline std::string german_bank_code_fault(const std::string& text) {
+// For the option that takes a bank code, whose groups are joined; empty when nothing is wrong.
+inline std::string german_bank_code_fault(std::string& text) {
+  join_groups(text);
   return is_german_bank_code(text) ? "" : "'" + printable(text) + "' is " + bank_code_wanted;
 }
 

@@ -115,7 +115,7 @@ void add_account_check(CLI::App& program, int& exit_status) {
       ->check(CLI::Validator(method_fault, ""));
   check->add_option("--bank-code", query->bank_code, "Bank code of 8 digits")
       ->type_name("CODE")
-      ->check(CLI::Validator(german_bank_code_fault, ""));
+      ->transform(CLI::Validator(german_bank_code_fault, ""));
   check->add_option("ACCOUNT", query->accounts.arguments, "Account numbers; - for the input")
       ->type_name("");
   add_asking_options(*check, query->accounts);

@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "files/delimiters.h"
+#include "commands/table_options.h"
+#include "files/grouped_code.h"
+#include "files/table_form.h"
 #include "files/value_rules.h"
 #include "terminal/diagnostics.h"
 
@@ -14,22 +16,25 @@ bool asked_items::many() const {
          (!arguments.empty() && arguments.front() == "-");
 }
 
+table_wishes asked_items::table() const {
+  return {table_separators.at(delimiter), table_encodings.at(encoding)};
+}
+
 void add_asking_options(CLI::App& command, asked_items& asked) {
   command.add_option("--input", asked.input, "File to read lines of; - for standard input")
       ->type_name("FILE");
   command.add_option("--column", asked.column, "The input is CSV: read this column of it")
       ->type_name("NAME");
-  command.add_option("--delimiter", asked.delimiter, "What separates the cells: , ; or tab")
-      ->type_name("CHAR")
-      ->check(CLI::IsMember(delimiters).description(""))
-      ->capture_default_str();
+  add_table_options(command, asked.delimiter, asked.encoding);
   command.add_flag("--json", asked.json, "Print an object of JSON a line");
 }
 
 void check_asked(const CLI::App& command, const asked_items& asked, const char* wanted) {
   if (asked.arguments.empty() && !asked.input) throw CLI::RequiredError(wanted);
-  if (command.count("--delimiter") > 0 && !asked.column) {
-    throw CLI::ValidationError("--delimiter", "is for --column");
+  for (const char* const option : {"--delimiter", "--encoding"}) {
+    if (command.count(option) > 0 && !asked.column) {
+      throw CLI::ValidationError(option, "is for --column");
+    }
   }
   const bool reads = asked.input || std::ranges::count(asked.arguments, "-") > 0;
   if (asked.column && !reads) throw CLI::ValidationError("--column", "needs --input or -");
@@ -42,6 +47,15 @@ item_reader::item_reader(const asked_items& asked)
       faults_(asked.input.value_or("-"), fault_extent::first) {}
 
 bool item_reader::next(std::string_view& text) {
+  if (!next_written(text)) return false;
+  if (is_joined(text)) return true;
+  joined_ = text;
+  join_groups(joined_);
+  text = joined_;
+  return true;
+}
+
+bool item_reader::next_written(std::string_view& text) {
   for (;;) {
     if (input_ && next_of_input(text)) return true;
     if (argument_ < asked_.arguments.size()) {
@@ -59,8 +73,7 @@ bool item_reader::next(std::string_view& text) {
 void item_reader::open() {
   input_ = std::make_unique<input_file>(asked_.input.value_or("-"));
   if (asked_.column) {
-    cells_ =
-        std::make_unique<column_reader>(*input_, delimiters.at(asked_.delimiter), *asked_.column);
+    cells_ = std::make_unique<column_reader>(*input_, asked_.table(), *asked_.column);
     const std::string& fault = cells_->header_fault();
     if (!fault.empty())
       cells_->line() > 0 ? faults_.add(cells_->line(), fault) : faults_.add(fault);

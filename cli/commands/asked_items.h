@@ -25,14 +25,17 @@ struct asked_items {
   std::vector<std::string> arguments;
   std::optional<std::string> input;  // standard input when not given
   std::optional<std::string> column;
-  std::string delimiter = ",";
+  std::string delimiter = "auto";
+  std::string encoding = "auto";
   bool json = false;
 
   // Whether more may be asked than one argument.
   bool many() const;
+  // How the input is read when it is a table.
+  table_wishes table() const;
 };
 
-// Adds --input, --column, --delimiter and --json.
+// Adds --input, --column, --delimiter, --encoding and --json.
 void add_asking_options(CLI::App& command, asked_items& asked);
 
 // Throws the error of a command that is asked nothing, or by options that do not fit.
@@ -43,12 +46,14 @@ class item_reader {
  public:
   explicit item_reader(const asked_items& asked);
 
-  // Hands out the next text, which lives until the next call, with a NUL byte behind it.
+  // Hands out the next text without what stands between its groups; it lives until the next
+  // call, with a NUL byte behind it.
   bool next(std::string_view& text);
   // Prints what could not be read. False when there is any.
   bool tell_faults() const;
 
  private:
+  bool next_written(std::string_view& text);
   bool next_of_input(std::string_view& text);
   void open();
 
@@ -58,6 +63,7 @@ class item_reader {
   std::unique_ptr<input_file> input_;
   std::unique_ptr<line_reader> lines_;
   std::unique_ptr<column_reader> cells_;
+  std::string joined_;
   fault_report faults_;
 };
 

@@ -11,7 +11,9 @@
 #include <vector>
 
 #include "banks/bank_handle.h"
+#include "banks/given_up_bank.h"
 #include "commands/asked_items.h"
+#include "files/grouped_code.h"
 #include "platform/exhausted_memory.h"
 #include "platform/exit_status.h"
 #include "terminal/diagnostics.h"
@@ -36,7 +38,9 @@ prints
   tivex bank --json --input customers.csv --column iban --iban -
 
 prints an object a line with "query", "name", "postcode", "city", "country",
-"bic" and "fault"; of banks by their BIC with "schemes" too.)";
+"bic", "deleted" (whether the bank code is marked for deletion), "successor" (the
+one that has taken over) and "fault"; of banks by their BIC "schemes" in place of
+both.)";
 
 // What is asked for: a country and bank code, an IBAN or a BIC.
 struct bank_query {
@@ -85,9 +89,19 @@ std::vector<named_field> fields_of(const tivex_bank_info_t& bank) {
   return fields;
 }
 
-void print_text(const tivex_bank_info_t& bank, bool with_schemes) {
+// Whether the bank code asked for is given up; that of a BIC is not known.
+given_up_bank given_up(const bank_query& query, std::string_view asked) {
+  if (query.iban) return given_up_bank_of(german_bank_code(asked));
+  return query.country == "DE" ? given_up_bank_of(asked) : given_up_bank();
+}
+
+void print_text(const tivex_bank_info_t& bank, bool with_schemes, const given_up_bank& given_up) {
   for (const named_field& field : fields_of(bank)) {
     std::puts(labelled_line(field.label, field.text.empty() ? "-" : field.text).c_str());
+  }
+  if (given_up.deleted) std::puts(labelled_line("deleted", "marked for deletion").c_str());
+  if (!given_up.successor.empty()) {
+    std::puts(labelled_line("successor", given_up.successor).c_str());
   }
   if (!with_schemes) return;
   std::string names;
@@ -95,13 +109,22 @@ void print_text(const tivex_bank_info_t& bank, bool with_schemes) {
   std::puts(labelled_line("schemes", names.empty() ? "-" : names).c_str());
 }
 
-void print_json(const tivex_bank_info_t& bank, bool with_schemes) {
+void add_to(json_object& object, const given_up_bank& given_up) {
+  object.add_flag("deleted", given_up.deleted);
+  object.add_text_or_null("successor", given_up.successor);
+}
+
+void print_json(const tivex_bank_info_t& bank, bool with_schemes, const given_up_bank& given_up) {
   json_object object;
   for (const named_field& field : fields_of(bank)) {
     // A bank without a BIC, say, has none rather than an empty one.
     object.add_text_or_null(field.json_key, field.text);
   }
-  if (with_schemes) object.add_texts("schemes", schemes_of(bank));
+  if (with_schemes) {
+    object.add_texts("schemes", schemes_of(bank));
+  } else {
+    add_to(object, given_up);
+  }
   std::puts(object.lines().c_str());
 }
 
@@ -134,19 +157,20 @@ const char* look_up(const bank_query& query, std::string_view asked, bank_handle
 
 int print_one(const bank_query& query) {
   bank_handle bank;
-  const std::string& asked = query.asked.arguments.front();
+  const std::string asked = joined_groups(query.asked.arguments.front());
   if (const char* const fault = look_up(query, asked, bank)) {
     print_error((query.code ? query.country + ' ' : "") + asked + ": " + fault);
     return exit_failure;
   }
-  (query.asked.json ? print_json : print_text)(*bank, query.bic.has_value());
+  (query.asked.json ? print_json : print_text)(*bank, query.bic.has_value(),
+                                               given_up(query, asked));
   return flush_standard_output() ? exit_success : exit_failure;
 }
 
 const char* or_empty(const char* text) { return text == nullptr ? "" : text; }
 
 void append_json(std::string& line, std::string_view asked, const tivex_bank_info_t* bank,
-                 bool with_schemes, const char* fault) {
+                 bool with_schemes, const given_up_bank& given_up, const char* fault) {
   json_object object;
   object.add_text("query", asked);
   object.add_text_or_null("name", bank == nullptr ? "" : bank->name);
@@ -161,12 +185,13 @@ void append_json(std::string& line, std::string_view asked, const tivex_bank_inf
       object.add_texts("schemes", schemes_of(*bank));
     }
   }
+  if (!with_schemes) add_to(object, given_up);
   object.add_text_or_null("fault", or_empty(fault));
   line += object.line();
 }
 
 // Appends what the directory has of the bank, separated by commas.
-void append_text(std::string& line, const tivex_bank_info_t& bank) {
+void append_text(std::string& line, const tivex_bank_info_t& bank, const given_up_bank& given_up) {
   std::string place = or_empty(bank.postcode);
   const std::string_view city = or_empty(bank.city);
   if (!place.empty() && !city.empty()) place += ' ';
@@ -180,19 +205,25 @@ void append_text(std::string& line, const tivex_bank_info_t& bank) {
     first = false;
     line += part;
   }
+  if (!given_up.successor.empty()) {
+    line += " (successor " + given_up.successor + ")";
+  } else if (given_up.deleted) {
+    line += " (marked for deletion)";
+  }
 }
 
 int print_many(const bank_query& query) {
   return answer_each(query.asked, [&](std::string_view asked, std::string& line) {
     bank_handle bank;
     const char* const fault = look_up(query, asked, bank);
+    const given_up_bank bank_code = fault == nullptr ? given_up(query, asked) : given_up_bank();
     if (query.asked.json) {
-      append_json(line, asked, bank.get(), query.bic.has_value(), fault);
+      append_json(line, asked, bank.get(), query.bic.has_value(), bank_code, fault);
       return fault == nullptr;
     }
     append_subject(line, asked);
     if (fault == nullptr) {
-      append_text(line, *bank);
+      append_text(line, *bank, bank_code);
     } else {
       line += fault;
     }

@@ -14,11 +14,10 @@ int set_instant(tivex_t* message, const char* /*value*/) {
 
 constexpr header_option options[] = {
     name_option,
-    {"--iban", "IBAN", "Account that the payments are made from", true, tivex_setIBAN},
-    {"--bic", "BIC", "The account's bank; older German rulebooks ask for it", false, tivex_setBIC},
-    {"--date", "DATE", "Execution date of lines without one, yyyy-mm-dd (default: today)", false,
-     tivex_setDate, date_fault},
-    {"--instant", nullptr, "Pay within seconds; with DE-26.11 only", false, set_instant},
+    own_iban_option("Account that the payments are made from"),
+    own_bic_option("The account's bank; older German rulebooks ask for it"),
+    date_option("Execution date of lines without one (default: today)"),
+    {"--instant", nullptr, "Pay within seconds; with DE-26.11 only", set_instant},
     category_purpose_option,
     message_id_option,
 };
@@ -37,11 +36,15 @@ with the payroll.csv
 
 writes payroll.xml and prints
 
+  rows            2
+  table           comma, UTF-8, decimal point
+  columns         iban, name, amount, ref, purp
   transactions    2
   sum             3200.00 EUR
   payment blocks  1
   rulebook        DE-26.11 (pain.001.001.09)
   schema          meets pain.001.001.09 (German subset)
+  by date         2026-11-27  3200.00 EUR (2)
   file            payroll.xml)";
 
 }  // namespace

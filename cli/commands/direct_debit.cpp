@@ -24,15 +24,17 @@ int set_local_instrument(tivex_t* message, const char* value) {
 
 constexpr header_option options[] = {
     name_option,
-    {"--iban", "IBAN", "Account that the collections are made for", true, tivex_setIBAN},
-    {"--bic", "BIC", "The account's bank; needed under all rulebooks but DE-26.11", false,
-     tivex_setBIC},
-    {"--creditor-id", "ID", "Creditor identifier", true, tivex_setCreditorIdentifier,
-     unescaped_fault},
-    {"--type", "TYPE", "CORE (default), COR1 or B2B", false, set_local_instrument,
-     local_instrument_fault},
-    {"--date", "DATE", "Collection date of lines without one, yyyy-mm-dd (default: today)", false,
-     tivex_setDate, date_fault},
+    own_iban_option("Account that the collections are made for"),
+    own_bic_option("The account's bank; needed under all rulebooks but DE-26.11"),
+    {.flag = "--creditor-id",
+     .placeholder = "ID",
+     .description = "Creditor identifier",
+     .set = tivex_setCreditorIdentifier,
+     .rule = unescaped_fault,
+     .required = true,
+     .form = value_form::code},
+    {"--type", "TYPE", "CORE (default), COR1 or B2B", set_local_instrument, local_instrument_fault},
+    date_option("Collection date of lines without one (default: today)"),
     category_purpose_option,
     message_id_option,
 };
@@ -40,9 +42,9 @@ constexpr header_option options[] = {
 constexpr auto columns = with_shared_columns(std::array{
     column{"seq"},
     column{"mref", unescaped_fault},
-    column{"mdate", date_fault},
+    column{"mdate", date_fault, {}, value_form::date},
     column{"old_mref", unescaped_fault},
-    column{"old_iban"},
+    column{.key = "old_iban", .form = value_form::code},
     column{"smnda"},
 });
 
@@ -59,11 +61,15 @@ with the fees.csv
 
 writes fees.xml and prints
 
+  rows            2
+  table           comma, UTF-8, decimal point
+  columns         iban, name, amount, seq, mref, mdate, ref
   transactions    2
   sum             144.00 EUR
   payment blocks  2
   rulebook        DE-26.11 (pain.008.001.08)
   schema          meets pain.008.001.08 (German subset)
+  by date         2026-12-01  144.00 EUR (2)
   file            fees.xml)";
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "banks/given_up_bank.h"
 #include "commands/asked_items.h"
 #include "files/value_rules.h"
 #include "payments/library_calls.h"
@@ -26,7 +27,8 @@ prints
 
   tivex iban check --json --input customers.csv --column iban
 
-prints an object a line with "iban", "valid" and "fault".)";
+prints an object a line with "iban", "valid", "fault", "deleted" (whether its bank
+code is marked for deletion) and "successor" (the IBAN in its place).)";
 
 // Tells why IBANs are invalid.
 class iban_checker {
@@ -51,15 +53,26 @@ int run(const asked_items& asked) {
   iban_checker checker;
   return answer_each(asked, [&](std::string_view iban, std::string& line) {
     const std::string fault = checker.fault_of(iban);
+    const std::string_view bank_code = fault.empty() ? german_bank_code(iban) : std::string_view();
+    const given_up_bank bank = bank_code.empty() ? given_up_bank() : given_up_bank_of(bank_code);
+    const std::string successor = bank.successor.empty() ? std::string() : successor_iban(iban);
     if (asked.json) {
       json_object object;
       object.add_text("iban", iban);
       object.add_flag("valid", fault.empty());
       object.add_text_or_null("fault", fault);
+      object.add_flag("deleted", bank.deleted);
+      object.add_text_or_null("successor", successor);
       line += object.line();
     } else {
       append_subject(line, iban);
       line += fault.empty() ? "valid" : fault;
+      if (!bank.successor.empty()) {
+        line += " (its bank code has passed to " + bank.successor +
+                (successor.empty() ? ")" : ": now " + successor + ")");
+      } else if (bank.deleted) {
+        line += " (its bank code is marked for deletion)";
+      }
     }
     return fault.empty();
   });

@@ -11,7 +11,7 @@
 #include "banks/german_numbers.h"
 #include "banks/iban_conversion.h"
 #include "commands/asked_items.h"
-#include "files/delimiters.h"
+#include "files/table_style.h"
 #include "platform/exit_status.h"
 #include "platform/output_file.h"
 #include "terminal/diagnostics.h"
@@ -51,6 +51,7 @@ struct conversion_query {
   std::string bank_code;
   asked_items asked;  // accounts, or one file
   std::string output = "-";
+  std::string excel;
   bool quiet = false;
 };
 
@@ -93,9 +94,10 @@ int convert_file(const conversion_query& query) {
     return true;
   };
   input_file input(name);
+  const table_style style = query.excel.empty() ? table_style{'\0'} : excel_styles.at(query.excel);
   const conversion_totals totals = convert_rows(
-      input, delimiters.at(query.asked.delimiter),
-      query.asked.json ? conversion_form::json : conversion_form::csv, take, !query.quiet);
+      input, query.asked.table(), query.asked.json ? conversion_form::json : conversion_form::csv,
+      style, take, !query.quiet);
   if (streams && !flush_standard_output()) return exit_failure;
   if (!totals.error.empty()) {
     print_error(totals.error);
@@ -159,7 +161,7 @@ void add_iban_convert(CLI::App& ibans, int& exit_status) {
   const auto query = std::make_shared<conversion_query>();
   command->add_option("--bank-code", query->bank_code, "Bank code of the accounts, 8 digits")
       ->type_name("CODE")
-      ->check(CLI::Validator(german_bank_code_fault, ""));
+      ->transform(CLI::Validator(german_bank_code_fault, ""));
   command
       ->add_option("-o,--output", query->output, "File to write (default: - for standard output)")
       ->type_name("FILE");
@@ -168,12 +170,20 @@ void add_iban_convert(CLI::App& ibans, int& exit_status) {
                    "Account numbers with --bank-code, else a CSV file")
       ->type_name("");
   command->add_flag("--quiet", query->quiet, "Tell errors only, not how many rows were converted");
+  command
+      ->add_option("--excel", query->excel,
+                   "Write CSV that Excel opens with a double click, in German (de) or English (en)")
+      ->type_name("LANGUAGE")
+      ->check(CLI::IsMember(excel_styles).description(""));
   add_asking_options(*command, query->asked);
   command->footer(convert_example);
   command->callback([command, query, &exit_status] {
     const bool by_account = command->count("--bank-code") > 0;
     if (by_account && command->count("--output") > 0) {
       throw CLI::ValidationError("--output", "is for CSV files");
+    }
+    if (!query->excel.empty() && (by_account || query->asked.json)) {
+      throw CLI::ValidationError("--excel", "is for CSV files");
     }
     if (by_account) {
       check_asked(*command, query->asked, "ACCOUNT or --input");

@@ -29,7 +29,7 @@ content tells.
 
 Entries stand under their booking date. R marks a reversal, which takes its
 amount back; the table shows amounts by what they do to the balance, JSON and
-CSV as the file has them.
+CSV as the file has them, and behind all else as "booked" by what they do.
 
 Examples:
   tivex statement november.xml
@@ -38,7 +38,7 @@ Examples:
   tivex statement --format hledger --account assets:bank may.xml >>my.journal)";
 
 struct statement_format {
-  void (*begin)();
+  void (*begin)(const table_style& style);
   void (*print)(const statement_view& view, bool first);
   void (*end)();
   bool shows_balance_fault;
@@ -60,6 +60,8 @@ struct statement_query {
   std::string from;
   std::string to;
   std::string encoding = "auto";
+  std::string excel;
+  table_style style;
   bool strict = false;
   bool json = false;
   bool quiet = false;
@@ -83,7 +85,7 @@ class statement_printer {
   }
 
   bool print_all() {
-    if (!journal_) format_.begin();
+    if (!journal_) format_.begin(query_.style);
     for (const std::string& name : query_.files) {
       read_statement_files(name, query_.strict,
                            [this](const statement_file& file) { print_file(file); });
@@ -99,8 +101,8 @@ class statement_printer {
     note(file, pending_note(tivex_stmt_parser_getPending(file.parser.get())));
     for (const tivex_stmt_t* statement = tivex_stmt_parser_getStatement(file.parser.get());
          statement != nullptr; statement = statement->next) {
-      print_statement(
-          {file.name, *statement, query_.period, encoding_of(file), balance_fault(*statement)});
+      print_statement({file.name, *statement, query_.period, encoding_of(file), query_.style,
+                       balance_fault(*statement)});
     }
   }
 
@@ -174,6 +176,16 @@ void choose_json(statement_query& query, const CLI::Option& format) {
   query.format = "json";
 }
 
+// What is opened in Excel is CSV, also when no format is named.
+void choose_style(statement_query& query, const CLI::Option& format) {
+  if (query.excel.empty()) return;
+  if ((format.count() > 0 || query.json) && query.format != "csv") {
+    throw CLI::ValidationError("--excel", "is for --format csv");
+  }
+  query.format = "csv";
+  query.style = excel_styles.at(query.excel);
+}
+
 // An account of the journal is named where there is one, and nowhere else.
 void check_account(const statement_query& query, const CLI::Option& account) {
   const bool journal = query.format == journal_format;
@@ -210,6 +222,11 @@ void add_statement(CLI::App& program, int& exit_status) {
                        "For hledger: the account that the statements are of, such as assets:bank")
           ->type_name("NAME")
           ->check(CLI::Validator(journal_account_fault, ""));
+  command
+      ->add_option("--excel", query->excel,
+                   "Print CSV that Excel opens with a double click, in German (de) or English (en)")
+      ->type_name("LANGUAGE")
+      ->check(CLI::IsMember(excel_styles).description(""));
   add_date_option(*command, "--from", query->from, "First date of entries, YYYY-MM-DD");
   add_date_option(*command, "--to", query->to, "Last date of entries");
   command
@@ -229,6 +246,7 @@ void add_statement(CLI::App& program, int& exit_status) {
   command->footer(example);
   command->callback([&exit_status, query, format, account] {
     choose_json(*query, *format);
+    choose_style(*query, *format);
     check_account(*query, *account);
     query->period = period_of(*query);
     exit_status = run(*query);

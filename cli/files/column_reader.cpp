@@ -2,11 +2,22 @@
 
 #include <algorithm>
 
+#include "files/column_names.h"
+
 namespace tivex_program {
 
 column_place find_column(const std::vector<std::string>& header, std::string_view name) {
-  const auto found = std::find(header.begin(), header.end(), name);
-  if (found != header.end() && std::find(found + 1, header.end(), name) == header.end()) {
+  // One that is named as it stands is meant, whatever others are like it.
+  const auto same = [&](const std::string& each) { return each == name; };
+  const auto alike = [&](const std::string& each) {
+    return !key_of_column(each, {&name, 1}).empty();
+  };
+  const bool exact = std::ranges::any_of(header, same);
+  const auto count =
+      exact ? std::ranges::count_if(header, same) : std::ranges::count_if(header, alike);
+  if (count == 1) {
+    const auto found =
+        exact ? std::ranges::find_if(header, same) : std::ranges::find_if(header, alike);
     return {static_cast<std::size_t>(found - header.begin()), {}};
   }
   return {0, "the header does not name one column '" + std::string(name) +
@@ -19,8 +30,8 @@ std::string row_fault(const csv_row& row, std::size_t header_size) {
          std::to_string(header_size);
 }
 
-column_reader::column_reader(input_file& input, char delimiter, std::string_view name)
-    : reader_(input, delimiter) {
+column_reader::column_reader(input_file& input, const table_wishes& wishes, std::string_view name)
+    : reader_(input, wishes) {
   if (!reader_.next(row_)) {
     // What is wrong is no line's fault.
     row_.line = 0;

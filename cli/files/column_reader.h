@@ -9,8 +9,8 @@
 
 namespace tivex_program {
 
-// Where the one column of this name stands; nothing in the place and a reason when the
-// header does not name it once.
+// Where the one column of this name stands, or one of its aliases; nothing in the place and
+// a reason when the header does not name it once.
 struct column_place {
   std::size_t place = 0;
   std::string fault;
@@ -23,7 +23,7 @@ std::string row_fault(const csv_row& row, std::size_t header_size);
 // Reads the cells of one column of a CSV file.
 class column_reader {
  public:
-  column_reader(input_file& input, char delimiter, std::string_view name);
+  column_reader(input_file& input, const table_wishes& wishes, std::string_view name);
 
   // Reads the next row. False at the end and when the file or its header is no good.
   bool next();

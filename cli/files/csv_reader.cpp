@@ -21,12 +21,17 @@ bool has_blanks_around(std::string_view cell) {
   return !cell.empty() && (is_blank(cell.front()) || is_blank(cell.back()));
 }
 
+bool is_without_text(const csv_row& row) {
+  return row.fault.empty() &&
+         std::ranges::all_of(row.cells, [](const std::string& cell) { return cell.empty(); });
+}
+
 }  // namespace
 
-csv_reader::csv_reader(input_file& input, char delimiter)
-    : input_(input), delimiter_(delimiter), buffer_(buffer_size) {
+csv_reader::csv_reader(input_file& input, const table_wishes& wishes)
+    : text_(input, wishes.encoding), buffer_(buffer_size) {
+  look(wishes.separator);
   start_parser();
-  skip_byte_order_mark();
 }
 
 csv_reader::~csv_reader() { csv_free(&parser_); }
@@ -34,26 +39,29 @@ csv_reader::~csv_reader() { csv_free(&parser_); }
 void csv_reader::start_parser() {
   csv_free(&parser_);
   csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI);
-  csv_set_delim(&parser_, static_cast<unsigned char>(delimiter_));
+  csv_set_delim(&parser_, static_cast<unsigned char>(separator_));
 }
 
 bool csv_reader::refill() {
   position_ = 0;
-  filled_ = input_.read(buffer_.data(), buffer_.size());
+  filled_ = text_.read(buffer_.data(), buffer_.size());
   find_line_feed();
   return filled_ > 0;
 }
 
-void csv_reader::skip_byte_order_mark() {
-  // A pipe may bring it in several parts.
-  while (filled_ < byte_order_mark.size()) {
-    const std::size_t count = input_.read(buffer_.data() + filled_, buffer_.size() - filled_);
+// Reads no further than to the end of the header: who feeds a pipe may wait for answers.
+void csv_reader::look(char wished) {
+  while (filled_ < buffer_.size() && !has_table_start({buffer_.data(), filled_})) {
+    const std::size_t count = text_.read(buffer_.data() + filled_, buffer_.size() - filled_);
     if (count == 0) break;
     filled_ += count;
   }
-  const std::string_view start(buffer_.data(), filled_);
-  if (start.substr(0, byte_order_mark.size()) == byte_order_mark)
-    position_ = byte_order_mark.size();
+  const table_start start = look_at_start({buffer_.data(), filled_});
+  separator_ = wished == '\0' ? start.separator : wished;
+  // The end of the line is left to be read, and counted.
+  const std::string_view before(buffer_.data(), start.length);
+  line_ += static_cast<std::size_t>(std::ranges::count(before, '\n'));
+  position_ = start.length;
   find_line_feed();
 }
 
@@ -90,6 +98,13 @@ void csv_reader::on_row(int, void* reader) noexcept {
 }
 
 bool csv_reader::next(csv_row& row) {
+  do {
+    if (!read_row(row)) return false;
+  } while (is_without_text(row));
+  return true;
+}
+
+bool csv_reader::read_row(csv_row& row) {
   row.fault.clear();
   row_ = &row;
   cells_ = 0;
@@ -110,6 +125,10 @@ bool csv_reader::read_piece() {
   const std::string_view piece = next_piece();
   const std::size_t length = piece.size();
   const bool ends_line = piece.back() == '\n' || piece.back() == '\r';
+
+  // In some files a line ends with a carriage return alone.
+  if (after_return_ && piece.front() != '\n') ++line_;
+  after_return_ = piece.back() == '\r';
 
   if (!row_open_) {
     row_line_ = line_;
@@ -146,10 +165,10 @@ bool csv_reader::read_plain_line(std::string_view line) {
   for (std::size_t at = 0; at <= line.size(); ++at) {
     const std::size_t quotes = may_quote && at < line.size() && line[at] == '"' ? 1 : 0;
     const std::size_t start = at + quotes;
-    const std::size_t stop = std::min(line.find(quotes > 0 ? '"' : delimiter_, start), line.size());
+    const std::size_t stop = std::min(line.find(quotes > 0 ? '"' : separator_, start), line.size());
     const std::string_view cell = line.substr(start, stop - start);
     at = stop + quotes;
-    const bool ended = at == line.size() || (at < line.size() && line[at] == delimiter_);
+    const bool ended = at == line.size() || (at < line.size() && line[at] == separator_);
     const bool bare = quotes == 0;
     if (!ended || (bare && (has_blanks_around(cell) || (may_quote && has_quotes(cell))))) {
       cells_ = 0;

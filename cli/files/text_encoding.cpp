@@ -18,28 +18,11 @@ constexpr char16_t own_characters[] = {
     unknown, 0x2018,  0x2019, 0x201C, 0x201D, 0x2022,  0x2013, 0x2014,   // 90
     0x02DC,  0x2122,  0x0161, 0x203A, 0x0153, unknown, 0x017E, 0x0178};  // 98
 
-char16_t windows1252_character(unsigned byte) {
-  const bool own = byte >= first_own && byte - first_own < std::size(own_characters);
-  return own ? own_characters[byte - first_own] : static_cast<char16_t>(byte);
-}
+char32_t latin1_character(unsigned char byte) { return byte; }
 
-char16_t latin1_character(unsigned byte) { return static_cast<char16_t>(byte); }
-
-void append_character(std::string& text, unsigned character) {
-  const auto append = [&text](unsigned byte) { text += static_cast<char>(byte); };
-  if (character < 0x80) return append(character);
-  if (character < 0x800) {
-    append(0xC0 | character >> 6);
-  } else {
-    append(0xE0 | character >> 12);
-    append(0x80 | (character >> 6 & 0x3F));
-  }
-  append(0x80 | (character & 0x3F));
-}
-
-std::string each_byte(std::string_view text, char16_t (*character)(unsigned byte)) {
+std::string each_byte(std::string_view text, char32_t (*character)(unsigned char byte)) {
   std::string result;
-  for (const char c : text) append_character(result, character(static_cast<unsigned char>(c)));
+  for (const char c : text) append_utf8(result, character(static_cast<unsigned char>(c)));
   return result;
 }
 
@@ -47,7 +30,7 @@ std::string sound_utf8(std::string_view text) {
   std::string result;
   while (!text.empty()) {
     const std::size_t length = utf8_character_length(text);
-    if (length == 0) append_character(result, unknown);
+    if (length == 0) append_utf8(result, unknown);
     result.append(text.substr(0, length));
     text.remove_prefix(length == 0 ? 1 : length);
   }
@@ -55,6 +38,28 @@ std::string sound_utf8(std::string_view text) {
 }
 
 }  // namespace
+
+char32_t windows1252_character(unsigned char byte) {
+  const bool own = byte >= first_own && byte - first_own < std::size(own_characters);
+  return own ? own_characters[byte - first_own] : byte;
+}
+
+void append_utf8(std::string& text, char32_t character) {
+  const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
+  if (character < 0x80) return append(character);
+  if (character < 0x800) {
+    append(0xC0 | character >> 6);
+  } else {
+    if (character < 0x10000) {
+      append(0xE0 | character >> 12);
+    } else {
+      append(0xF0 | character >> 18);
+      append(0x80 | (character >> 12 & 0x3F));
+    }
+    append(0x80 | (character >> 6 & 0x3F));
+  }
+  append(0x80 | (character & 0x3F));
+}
 
 bool is_utf8(std::string_view text) {
   while (!text.empty()) {

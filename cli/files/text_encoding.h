@@ -18,6 +18,12 @@ inline const std::map<std::string, text_encoding> text_encodings = {
 
 bool is_utf8(std::string_view text);
 
+// What a byte of windows-1252 stands for; U+FFFD where it knows none.
+char32_t windows1252_character(unsigned char byte);
+
+// Appends the character in UTF-8; half of a surrogate pair becomes bytes that are none.
+void append_utf8(std::string& text, char32_t character);
+
 // Returns the text in UTF-8, with U+FFFD for what the encoding does not know.
 std::string to_utf8(std::string_view text, text_encoding encoding);
 

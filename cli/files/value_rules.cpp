@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "files/date_text.h"
+#include "files/grouped_code.h"
 #include "files/utf8.h"
 
 namespace tivex_program {
@@ -45,6 +47,13 @@ std::string with_hex(const char* format, char byte) {
 
 }  // namespace
 
+bool write_as_prescribed(value_form form, std::string& value) {
+  if (form == value_form::code) return join_groups(value);
+  if (form != value_form::date) return false;
+  const std::string before = value;
+  return read_date(value) == date_flaw::none && value != before;
+}
+
 std::string text_fault(std::string_view value) {
   if (is_printable(value)) return {};
   while (!value.empty()) {
@@ -74,11 +83,8 @@ std::string unescaped_fault(std::string_view value) {
 }
 
 std::string date_fault(std::string_view value) {
-  constexpr std::string_view form = "dddd-dd-dd";
-  const bool fits = std::equal(
-      value.begin(), value.end(), form.begin(), form.end(),
-      [](char c, char expected) { return expected == 'd' ? is_digit(c) : c == expected; });
-  return fits ? "" : "date not of the form yyyy-mm-dd";
+  std::string date(value);
+  return text_of(read_date(date));
 }
 
 std::string purpose_fault(std::string_view value) {

@@ -2,6 +2,7 @@
 
 #include <tivex.h>
 
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,16 +20,37 @@ struct column {
   value_rule rule = text_fault;
   // Set where the library ignores the key under all other rulebooks.
   std::span<const std::string_view> only_rulebooks = {};
+  value_form form = value_form::text;
 };
 
-// Returns the columns that the header names, in its order; each name that is
-// wrong is reported.
-std::vector<const column*> resolve_header(const csv_row& header, std::span<const column> known,
-                                          const std::string& rulebook, fault_report& faults);
+// A column of one file.
+struct file_column {
+  const column* known = nullptr;  // null for one that is passed over
+  std::string name;               // in the file
+};
+using file_columns = std::vector<file_column>;
+
+// What the user says of the names in a header.
+struct header_wishes {
+  std::map<std::string, std::string> names;  // by their keys
+  bool ignores_unknown = false;
+};
+
+// Returns the columns that the header names, in its order; each name that is wrong is
+// reported.
+file_columns resolve_header(const csv_row& header, std::span<const column> known,
+                            const std::string& rulebook, const header_wishes& wishes,
+                            fault_report& faults);
+
+// Where the column with the key stands; the number of columns when there is none.
+std::size_t place_of(const file_columns& columns, std::string_view key);
+
+// The row of the table with the key; null when there is none.
+const column* find_key(std::span<const column> known, std::string_view key);
 
 // Lists the cells of a row for tivex_add. An empty cell leaves its key out; the
 // texts stay those of the row.
-void list_cells(const csv_row& row, const std::vector<const column*>& columns,
+void list_cells(const csv_row& row, const file_columns& columns,
                 std::vector<tivex_keyvalue_t>& list);
 
 }  // namespace tivex_program

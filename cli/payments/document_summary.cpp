@@ -1,7 +1,9 @@
 #include "payments/document_summary.h"
 
 #include <charconv>
+#include <vector>
 
+#include "payments/amount_cents.h"
 #include "payments/rulebooks.h"
 #include "terminal/diagnostics.h"
 #include "terminal/json_object.h"
@@ -37,6 +39,36 @@ std::size_t number(std::string_view digits) {
 
 constexpr const char* currency = "EUR";
 
+constexpr std::size_t most_dates = 20;
+
+// A line for each date, up to twenty.
+std::string text_of(const date_sums& sums) {
+  std::string text;
+  std::size_t shown = 0;
+  for (const auto& [date, sum] : sums) {
+    const char* const label = shown == 0 ? "by date" : "";
+    if (++shown > most_dates) {
+      return text + labelled_line(label, std::to_string(sums.size() - most_dates) + " more dates") +
+             '\n';
+    }
+    text += labelled_line(label, date + "  " + euro_text(sum.cents) + ' ' + currency + " (" +
+                                     std::to_string(sum.payments) + ')') +
+            '\n';
+  }
+  return text;
+}
+
+std::vector<json_object> objects_of(const date_sums& sums) {
+  std::vector<json_object> objects;
+  for (const auto& [date, sum] : sums) {
+    json_object& object = objects.emplace_back();
+    object.add_text("date", date);
+    object.add_number("transactions", sum.payments);
+    object.add_text("sum", euro_text(sum.cents));
+  }
+  return objects;
+}
+
 }  // namespace
 
 document_summary summarize(std::string_view document, const document_form& form) {
@@ -61,11 +93,20 @@ std::string text_of(const document_summary& summary, const std::string& file) {
          line("payment blocks", std::to_string(summary.payment_blocks)) +
          line("rulebook", summary.rulebook + " (" + summary.message + ")") +
          line("schema", summary.schema.empty() ? "not checked" : summary.schema) +
-         line("file", file.empty() ? "standard output" : file);
+         text_of(summary.sums) +
+         (summary.transliterated == 0
+              ? ""
+              : line("transliterated", std::to_string(summary.transliterated))) +
+         (summary.warnings == 0 ? "" : line("warnings", std::to_string(summary.warnings))) +
+         line("file", !summary.is_written ? "not written (--check)"
+                      : file.empty()      ? "standard output"
+                                          : file);
 }
 
-std::string json_of(const document_summary& summary, const std::string& file) {
+std::string json_of(const table_facts& table, const document_summary& summary,
+                    const std::string& file) {
   json_object object;
+  add_to(object, table);
   object.add_number("transactions", summary.transactions);
   object.add_text("sum", summary.sum);
   object.add_text("currency", currency);
@@ -73,7 +114,10 @@ std::string json_of(const document_summary& summary, const std::string& file) {
   object.add_text("rulebook", summary.rulebook);
   object.add_text("message", summary.message);
   object.add_text_or_null("schema", summary.schema);
-  object.add_text_or_null("file", file);
+  object.add_objects("sums", objects_of(summary.sums));
+  object.add_number("transliterated", summary.transliterated);
+  object.add_number("warnings", summary.warnings);
+  object.add_text_or_null("file", summary.is_written ? file : "");
   return object.line() + '\n';
 }
 

@@ -14,11 +14,12 @@ struct header_option {
   const char* flag;
   const char* placeholder;
   const char* description;
-  bool required;
   int (*set)(tivex_t* message, const char* value);
   value_rule rule = text_fault;
   // Set where the library keeps the value from the document under every other rulebook.
   std::string_view only_rulebook = {};
+  bool required = false;
+  value_form form = value_form::text;
 
   bool is_flag() const { return placeholder == nullptr; }
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "payments/header_option.h"
@@ -20,7 +21,15 @@ struct payment_header {
   std::vector<value> values;  // those given
   bool single_booking;
   bool strict;
+  std::string true_iban = {};  // when the value of --iban only stands for it
+  bool has_own_date = true;    // not when that of --date is only the day of today
 };
+
+// The text of an option of the header, empty when it is not given.
+std::string_view given_value(const payment_header& header, std::string_view flag);
+
+// The account that --iban names.
+std::string_view own_iban(const payment_header& header);
 
 // Makes an empty message with the header. A value that the message refuses is told
 // in `fault` with its option.

@@ -11,28 +11,50 @@
 
 namespace tivex_program {
 
-inline constexpr header_option name_option = {"--name", "NAME", "Name of the account's holder",
-                                              true, tivex_setName};
-inline constexpr header_option message_id_option = {"--message-id", "ID",
-                                                    "Identifier of the message (default: made up)",
-                                                    false, tivex_setMessageId};
+inline constexpr header_option name_option = {.flag = "--name",
+                                              .placeholder = "NAME",
+                                              .description = "Name of the account's holder",
+                                              .set = tivex_setName,
+                                              .required = true};
+inline constexpr header_option message_id_option = {
+    "--message-id", "ID", "Identifier of the message (default: made up)", tivex_setMessageId};
 inline constexpr header_option category_purpose_option = {
-    "--category-purpose",
-    "CODE",
-    "What all payments are for, such as SALA for salaries",
-    false,
-    tivex_setCategoryPurpose,
-    text_fault,
-    newest_rulebook};
+    "--category-purpose",     "CODE",     "What all payments are for, such as SALA for salaries",
+    tivex_setCategoryPurpose, text_fault, newest_rulebook};
+
+// Those that are described by what the account is for.
+constexpr header_option own_iban_option(const char* description) {
+  return {.flag = "--iban",
+          .placeholder = "IBAN",
+          .description = description,
+          .set = tivex_setIBAN,
+          .required = true,
+          .form = value_form::code};
+}
+constexpr header_option own_bic_option(const char* description) {
+  return {.flag = "--bic",
+          .placeholder = "BIC",
+          .description = description,
+          .set = tivex_setBIC,
+          .form = value_form::code};
+}
+constexpr header_option date_option(const char* description) {
+  return {.flag = "--date",
+          .placeholder = "DATE",
+          .description = description,
+          .set = tivex_setDate,
+          .rule = date_fault,
+          .form = value_form::date};
+}
 
 // The columns of every payment.
 inline constexpr std::array shared_columns = {
-    column{"iban"},
+    column{.key = "iban", .form = value_form::code},
     column{"name"},
-    column{"amount"},
+    column{.key = "amount", .form = value_form::amount},
     column{"ref"},
-    column{"bic"},
-    column{"date", date_fault},
+    column{.key = "bic", .form = value_form::code},
+    column{"date", date_fault, {}, value_form::date},
     column{"id", unescaped_fault},
     column{"addrCC"},
     column{"addrLine1"},

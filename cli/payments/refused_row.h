@@ -1,20 +1,24 @@
 #pragma once
 
-#include <tivex.h>
-
-#include <string>
 #include <vector>
+
+#include "files/csv_reader.h"
+#include "payments/columns.h"
+#include "payments/payment_message.h"
+#include "payments/row_fault.h"
+#include "terminal/fault_report.h"
 
 namespace tivex_program {
 
-struct row_fault {
-  std::string key;  // empty when no single key is at fault
-  std::string reason;
-};
+// Finds what else is wrong with a row, whose cells with the faults so far are taken for good:
+// what the library refuses of each cell, what is missing, and with a strict header what the
+// schema refuses.
+void find_all_faults(const payment_header& header, const csv_row& row, const file_columns& columns,
+                     std::vector<row_fault>& faults);
 
-// Finds the key that the library refused in a list that it has just refused to
-// add to the message, which is of the type named.
-row_fault explain(const tivex_t* message, int message_type,
-                  const std::vector<tivex_keyvalue_t>& list);
+// Tells the faults of a row in the order of its columns, with their names and values in the
+// file and what to do.
+void tell_row(const csv_row& row, const file_columns& columns, std::vector<row_fault> faults,
+              fault_report& report);
 
 }  // namespace tivex_program

@@ -21,12 +21,6 @@ message_handle message_without_bic(int type) {
   return message;
 }
 
-message_handle whole_message(int type) {
-  message_handle message = message_without_bic(type);
-  tivex_setBIC(message.get(), "COBADEFFXXX");
-  return message;
-}
-
 // Whether a direct debit takes the values; unlike a credit transfer it refuses what it
 // does not know.
 bool takes(std::initializer_list<tivex_keyvalue_t> values, std::string_view left_out = {}) {
@@ -55,7 +49,7 @@ bool goes_without_bic(int type) {
 }
 
 std::string version_of(int type) {
-  const document_handle document = document_of(whole_message(type));
+  const document_handle document = document_of(sound_message(type));
   if (!document) return "?";
   constexpr std::string_view mark = ":xsd:";
   std::string_view text = document.get();
@@ -100,7 +94,7 @@ constexpr admission admissions[] = {
      }},
     {"--category-purpose",
      [] {
-       const message_handle message = whole_message(TIVEX_CREDIT_TRANSFER);
+       const message_handle message = sound_message(TIVEX_CREDIT_TRANSFER);
        tivex_setCategoryPurpose(message.get(), "SALA");
        const document_handle document = document_of(message);
        return document && std::string_view(document.get()).find("<CtgyPurp>") != std::string::npos;
@@ -137,6 +131,12 @@ std::vector<std::string> known_names() {
 
 }  // namespace
 
+message_handle sound_message(int type) {
+  message_handle message = message_without_bic(type);
+  tivex_setBIC(message.get(), "COBADEFFXXX");
+  return message;
+}
+
 std::string select_rulebook(const std::string& name) {
   if (tivex_init(TIVEX_OPTION_RULEBOOK, name.c_str()) == 1) return {};
   return "unknown rulebook '" + name + "' (known: " + known_rulebooks + ")";
@@ -145,6 +145,8 @@ std::string select_rulebook(const std::string& name) {
 std::string subset_of(std::string_view rulebook) {
   return rulebook.starts_with("DE") ? "German subset" : rulebook == "AT-6" ? "Austrian subset" : "";
 }
+
+bool rows_want_bic() { return !takes({}, "bic"); }
 
 std::vector<rulebook_facts> all_rulebooks() {
   std::vector<rulebook_facts> all;

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "payments/message_handle.h"
+
 namespace tivex_program {
 
 // What banks work by now: the only rulebook with what is new, and with strict documents
@@ -28,6 +30,11 @@ std::string select_rulebook(const std::string& name);
 
 // Whose subset of the ISO schemas the documents meet; empty for none.
 std::string subset_of(std::string_view rulebook);
+
+// Whether the selected rulebook wants the BIC of the other side in each row.
+bool rows_want_bic();
+// A message with every header value that any document asks for.
+message_handle sound_message(int type);
 
 // What the library says of a rulebook when it is asked to set, add and write.
 struct rulebook_facts {

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "files/csv_reader.h"
+#include "payments/admitted_characters.h"
 #include "payments/columns.h"
 #include "payments/payment_message.h"
+#include "payments/refused_row.h"
 #include "terminal/fault_report.h"
 
 namespace tivex_program {
@@ -33,8 +35,13 @@ class schema_probe {
 
   // Takes a row that the message has taken. Faults are reported in the order of
   // the lines, at the latest by `finish`.
-  void add(csv_row& row, const std::vector<const column*>& columns, fault_report& faults);
-  void finish(const std::vector<const column*>& columns, fault_report& faults);
+  void add(csv_row& row, const file_columns& columns, fault_report& faults);
+  void finish(const file_columns& columns, fault_report& faults);
+
+  // Reports what is wrong with a row that was refused for the faults, or for what the library
+  // says; up to the first fault one of them.
+  void refuse(const csv_row& row, const file_columns& columns, std::vector<row_fault> faults,
+              fault_report& report);
 
   // Whether a fault among those reported so far ends the reading.
   bool is_done(const fault_report& faults) const {
@@ -48,9 +55,10 @@ class schema_probe {
 
  private:
   // The library's text when a message of these rows is refused, else empty.
-  std::string refusal(std::span<const csv_row> rows, const std::vector<const column*>& columns);
+  std::string refusal(std::span<const csv_row> rows, const file_columns& columns);
 
   payment_header header_;
+  admitted_characters characters_;
   probing extent_;
   std::vector<csv_row> batch_;
   std::uint64_t bytes_ = 0;

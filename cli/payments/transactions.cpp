@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
+#include <utility>
 #include <vector>
 
 #include "files/csv_reader.h"
@@ -14,55 +14,66 @@
 namespace tivex_program {
 namespace {
 
-using columns_of_file = std::vector<const column*>;
-
-// The first cell that the program itself refuses.
-std::optional<row_fault> unsound_cell(const csv_row& row, const columns_of_file& columns) {
-  if (!row.fault.empty()) return row_fault{"", row.fault};
-  if (row.cells.size() != columns.size()) {
-    return row_fault{"", std::to_string(row.cells.size()) + " cells, the header names " +
-                             std::to_string(columns.size())};
-  }
+table_facts facts_of(const csv_reader& reader, const file_columns& columns,
+                     const row_values& values, const amount_column& amounts) {
+  table_facts facts;
+  facts.separator = reader.separator();
+  facts.encoding = name_of_encoding(reader.text().encoding());
+  if (reader.text().has_mark()) facts.encoding += " with byte order mark";
+  facts.sign = amounts.sign();
+  facts.decided_amounts = amounts.decided();
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (row.cells[i].empty()) continue;
-    const std::string fault = columns[i]->rule(row.cells[i]);
-    if (!fault.empty()) return row_fault{columns[i]->key, fault};
+    facts.columns.push_back({i < values.in_file() ? columns[i].name : "",
+                             columns[i].known == nullptr ? "" : columns[i].known->key,
+                             values.changed()[i], values.filled()[i]});
   }
-  return std::nullopt;
+  return facts;
 }
 
 }  // namespace
 
-void add_transactions(tivex_t* message, input_file& input, const row_format& format,
-                      schema_probe& probe, fault_report& faults) {
-  csv_reader reader(input, format.delimiter);
+table_facts add_transactions(tivex_t* message, input_file& input, const row_format& format,
+                             amount_column& amounts, schema_probe& probe, payment_review& review,
+                             fault_report& faults) {
+  csv_reader reader(input, format.table);
   csv_row row;
   if (!reader.next(row)) {
-    return faults.add(input.error().empty() ? "no header" : input.error());
+    faults.add(input.error().empty() ? "no header" : input.error());
+    return {};
   }
-  if (!row.fault.empty()) return faults.add(row.line, row.fault);
-  const auto columns = resolve_header(row, format.kind.columns, probe.rulebook(), faults);
-  if (!faults.empty()) return;
+  file_columns columns;
+  if (row.fault.empty()) {
+    columns = resolve_header(row, format.kind.columns, probe.rulebook(), format.names, faults);
+  } else {
+    tell_row(row, columns, {{.reason = row.fault}}, faults);
+  }
+  if (!faults.empty()) return {};
 
+  row_values values(columns, format.kind.columns, format.defaults, amounts);
+  review.set_columns(columns);
   progress_line progress(input.size(), format.shows_progress);
   std::vector<tivex_keyvalue_t> list;
+  std::vector<row_fault> flaws;
   std::uint64_t rows = 0;
   std::uint64_t taken = 0;
   while (!probe.is_done(faults) && reader.next(row)) {
     progress.show(++rows, input.bytes_read());
-    std::optional<row_fault> fault = unsound_cell(row, columns);
-    if (!fault) {
+    flaws.clear();
+    values.read(row, flaws);
+    review.prepare(row, flaws);
+    if (flaws.empty()) {
       list_cells(row, columns, list);
       if (add_transaction(message, list.data())) {
+        review.take(row);
         probe.add(row, columns, faults);
         // Otherwise it would show only when all is read and nearly all is written.
         if (std::max(++taken * format.kind.least_bytes, probe.bytes()) < longest_document) continue;
-        return faults.add("too many transactions for one document (at most 4 GiB)");
+        faults.add("too many transactions for one document (at most 4 GiB)");
+        return {};
       }
-      fault = faults.full() ? row_fault{} : explain(message, format.kind.message_type, list);
     }
     probe.finish(columns, faults);
-    faults.add(row.line, fault->key, fault->reason);
+    probe.refuse(row, columns, flaws, faults);
   }
   probe.finish(columns, faults);
   if (!input.error().empty()) {
@@ -70,6 +81,26 @@ void add_transactions(tivex_t* message, input_file& input, const row_format& for
   } else if (rows == 0) {
     faults.add("no transactions");
   }
+  table_facts facts = facts_of(reader, columns, values, amounts);
+  facts.rows = rows;
+  return facts;
+}
+
+decimal_evidence find_decimal_sign(input_file& input, const row_format& format,
+                                   const std::string& rulebook) {
+  csv_reader reader(input, format.table);
+  csv_row row;
+  fault_report faults(input.name(), fault_extent::first);
+  if (!reader.next(row) || !row.fault.empty()) return {};
+  const file_columns columns =
+      resolve_header(row, format.kind.columns, rulebook, format.names, faults);
+  const std::size_t place = place_of(columns, "amount");
+  while (reader.next(row)) {
+    if (row.cells.size() <= place) continue;
+    const decimal_sign sign = read_amount(row.cells[place]).decides();
+    if (sign != decimal_sign::unknown) return {sign, row.line};
+  }
+  return {};
 }
 
 }  // namespace tivex_program

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "files/ascii_case.h"
 #include "files/utf8.h"
-#include "terminal/ascii_case.h"
 
 namespace tivex_program {
 namespace {

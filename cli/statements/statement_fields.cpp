@@ -3,6 +3,8 @@
 #include <ctime>
 #include <optional>
 
+#include "statements/statement_balance.h"
+
 namespace tivex_program {
 namespace {
 
@@ -23,6 +25,11 @@ field_value shown(unsigned char flag) { return flag != 0; }
 template <auto member, typename record>
 field_value value_of(const record& of) {
   return shown(of.*member);
+}
+
+// The amount with the sign that it has on the account.
+field_value booked(const tivex_stmt_tx_t& entry) {
+  return static_cast<double>(effect_of(entry)) / 100;
 }
 
 using statement = tivex_stmt_t;
@@ -70,6 +77,7 @@ constexpr record_field<entry> fields_of_entry[] = {
     {"abwe", value_of<&entry::abwe>},
     {"full_name", value_of<&entry::full_name>},
     {"return_reason", value_of<&entry::return_reason>},
+    {"booked", booked},
 };
 
 }  // namespace

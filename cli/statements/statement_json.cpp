@@ -36,7 +36,7 @@ void add_fields(ordered_json& object, std::span<const record_field<record>> fiel
 
 }  // namespace
 
-void begin_statement_json() { print_to_standard_output("["); }
+void begin_statement_json(const table_style&) { print_to_standard_output("["); }
 
 void print_statement_json(const statement_view& view, bool first) {
   ordered_json head;

@@ -131,7 +131,7 @@ void print_foot(const statement_view& view, const entry_totals& totals) {
 
 }  // namespace
 
-void begin_statement_table() {}
+void begin_statement_table(const table_style&) {}
 
 void print_statement_table(const statement_view& view, bool first) {
   if (!first) print_to_standard_output("\n");

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "files/table_style.h"
 #include "files/text_encoding.h"
 #include "statements/statement_balance.h"
 #include "statements/statement_date.h"
@@ -18,6 +19,7 @@ struct statement_view {
   const tivex_stmt_t& statement;
   const statement_period& period;
   text_encoding encoding;
+  const table_style& style;
   std::string balance_fault;  // empty when there is none
 };
 

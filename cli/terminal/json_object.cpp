@@ -13,6 +13,8 @@ struct json_object::members {
 
 json_object::json_object() : members_(std::make_unique<members>()) {}
 json_object::~json_object() = default;
+json_object::json_object(json_object&& other) noexcept = default;
+json_object& json_object::operator=(json_object&& other) noexcept = default;
 
 void json_object::add_text(std::string_view name, std::string_view text) {
   members_->all[std::string(name)] = is_utf8(text) ? std::string(text) : printable(text);
@@ -25,6 +27,12 @@ void json_object::add_text_or_null(std::string_view name, std::string_view text)
 
 void json_object::add_texts(std::string_view name, const std::vector<std::string>& texts) {
   members_->all[std::string(name)] = texts;
+}
+
+void json_object::add_objects(std::string_view name, const std::vector<json_object>& objects) {
+  auto array = nlohmann::ordered_json::array();
+  for (const json_object& each : objects) array.push_back(each.members_->all);
+  members_->all[std::string(name)] = std::move(array);
 }
 
 void json_object::add_number(std::string_view name, std::uint64_t number) {

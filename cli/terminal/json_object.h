@@ -14,13 +14,14 @@ class json_object {
  public:
   json_object();
   ~json_object();
-  json_object(const json_object&) = delete;
-  json_object& operator=(const json_object&) = delete;
+  json_object(json_object&& other) noexcept;
+  json_object& operator=(json_object&& other) noexcept;
 
   void add_text(std::string_view name, std::string_view text);
   // Null for an empty text.
   void add_text_or_null(std::string_view name, std::string_view text);
   void add_texts(std::string_view name, const std::vector<std::string>& texts);
+  void add_objects(std::string_view name, const std::vector<json_object>& objects);
   void add_number(std::string_view name, std::uint64_t number);
   void add_flag(std::string_view name, bool flag);
   void add_null(std::string_view name);

@@ -19,12 +19,21 @@ bool tells_exhaustion(std::string_view text) {
   return std::ranges::any_of(exhausted_ends, ends) || std::ranges::any_of(exhausted_starts, starts);
 }
 
+// Some texts begin with the name of the function that says it, which the user has not called.
+std::string_view without_function_name(std::string_view text) {
+  const std::size_t colon = text.find(": ");
+  const std::string_view start = text.substr(0, colon);
+  const bool named = colon != std::string_view::npos && start.find('_') != std::string_view::npos &&
+                     start.find(' ') == std::string_view::npos;
+  return named ? text.substr(colon + 2) : text;
+}
+
 }  // namespace
 
 std::string library_text(const char* text) {
   // It has no text when it did not come to make one.
   if (text == nullptr || tells_exhaustion(text)) end_for_want_of_memory();
-  return text;
+  return std::string(without_function_name(text));
 }
 
 }  // namespace tivex_program

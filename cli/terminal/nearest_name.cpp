@@ -5,7 +5,7 @@
 #include <numeric>
 #include <vector>
 
-#include "terminal/ascii_case.h"
+#include "files/ascii_case.h"
 
 namespace tivex_program {
 namespace {

@@ -92,7 +92,7 @@ TEST_P(Cases, EndAsTheirFileSays) {
 INSTANTIATE_TEST_SUITE_P(Program, Cases,
                          testing::Values("account_check", "bank", "faults", "iban_check",
                                          "iban_convert", "output", "rows", "schema", "statement",
-                                         "usage"),
+                                         "tables", "telling", "usage"),
                          [](const auto& file) { return file.param; });
 
 TEST(Rows, AreWholeWhereBuffersEnd) {
@@ -102,7 +102,7 @@ TEST(Rows, AreWholeWhereBuffersEnd) {
   const program_result good = run("transfer -", with_ibans(csv));
   EXPECT_TRUE(contains(good.errors, "transactions    9000\nsum             9090.00 EUR\n"));
   const program_result bad = run("transfer -", with_ibans(csv + "x"));
-  EXPECT_EQ(bad.errors, "-:9002: 1 cells, the header names 3\n");
+  EXPECT_TRUE(bad.errors.starts_with("-:9002: 1 cells, the header names 3; ")) << bad.errors;
 }
 
 }  // namespace

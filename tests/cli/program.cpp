@@ -12,7 +12,8 @@ const std::string commands =
     "tivex() { \"${TIVEX_PROGRAM:-" TIVEX_PROGRAM "}\" \"$@\"; }; examples='" TIVEX_SOURCE_DIR
     "/examples'\n"
     "with_account() { command=$1; shift; "
-    "  tivex $command --name 'Beispiel GmbH' --iban DE89370400440532013000 \"$@\"; }\n"
+    "  tivex $command --name 'Beispiel GmbH' --iban DE89370400440532013000 --today 2026-11-23 "
+    "    --without-warning old-directory \"$@\"; }\n"
     "transfer() { with_account credit-transfer --bic COBADEFFXXX --date 2026-11-27 \"$@\"; }\n"
     "debit() { with_account direct-debit --bic COBADEFFXXX --creditor-id DE98ZZZ09999999999 "
     "  --date 2026-12-01 \"$@\"; }\n";

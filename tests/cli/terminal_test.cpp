@@ -49,7 +49,8 @@ class terminal_run {
 
 constexpr const char* transfer =
     "'" TIVEX_PROGRAM
-    "' credit-transfer --name A --iban DE89370400440532013000 --lenient --rulebook DE-3.7 - 2>% "
+    "' credit-transfer --name A --iban DE89370400440532013000 --lenient --rulebook DE-3.7 "
+    "--without-warning repeated-payment --without-warning old-directory - 2>% "
     ">/dev/null";
 
 TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {
@@ -65,7 +66,7 @@ TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {
   EXPECT_GE(clock::now() - start, std::chrono::seconds(1));
   ASSERT_TRUE(screen.starts_with('\r') && screen.ends_with(" rows read")) << screen;
   std::string cleared = "\r";
-  cleared.append(screen.size() - 1, ' ').append("\rtransactions ");
+  cleared.append(screen.size() - 1, ' ').append("\rrows   ");
   screen += program.finish();
   EXPECT_TRUE(contains(screen, cleared)) << screen;
 }
@@ -73,7 +74,7 @@ TEST(Progress, AppearsWhenReadingLastsAndIsCleared) {
 TEST(Progress, DoesNotAppearForAShortFile) {
   terminal_run program(transfer);
   program.feed(with_ibans("iban,amount\n@,1\n"));
-  EXPECT_TRUE(program.finish().starts_with("transactions "));
+  EXPECT_TRUE(program.finish().starts_with("rows   "));
 }
 
 // What the program shows of a missing file and of a statement that does not add up.

@@ -1,0 +1,11 @@
+# Writes the rows of data/characters/sepa.tsv as C++ to a file, for a table sorted by code.
+function(tivex_write_transliterations facts target)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${facts})
+  file(STRINGS ${facts} rows REGEX "^[0-9A-F]+\t")
+  set(text "// Generated from data/characters/sepa.tsv\n")
+  foreach(row ${rows})
+    string(REGEX REPLACE "^([0-9A-F]+)\t([^\t]*)\t.*" "{0x\\1, \"\\2\"},\n" row "${row}")
+    string(APPEND text "${row}")
+  endforeach()
+  file(CONFIGURE OUTPUT ${target} CONTENT "${text}" @ONLY)
+endfunction()
