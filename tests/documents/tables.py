@@ -1,6 +1,8 @@
 """The reference tables against the sources, the library and the program."""
 
+import json
 import re
+import subprocess
 
 from library import CREDIT_TRANSFER, DIRECT_DEBIT, SOUND, SOUND_DEBIT
 from markdown import code, codes
@@ -103,7 +105,7 @@ def program_text_faults(document, root, first_column):
 
 
 def columns_of_help(text):
-    return set(re.search(r"Columns:((?:\s+\w+)+?)\n\n", text)[1].split())
+    return set(re.search(r"Columns[^:]*:((?:\s+\w+)+?)\n\n", text)[1].split())
 
 
 def kinds_of(cell):
@@ -211,3 +213,51 @@ def rulebook_faults(document, library, names):
 
 def rulebook_names(root):
     return re.findall(r'^    \{"([A-Z]+-[0-9.]+)",', (root / "src/core/rulebook.h").read_text(), re.M)
+
+
+# --- docs/spreadsheets.md ---------------------------------------------------------
+
+
+def read_as(environment, cells, *options):
+    """What the program reads a table of one payment as, or why it refuses it."""
+    cells = {"iban": "AT611904300234573201", "name": "Name", "amount": "1", **cells}
+    run = subprocess.run(
+        ["tivex", "credit-transfer", "--name", "Name", "--iban", "DE54100000000000012345",
+         "--check", "--json", *options, "-"], env=environment, check=False,
+        input="\t".join(cells) + "\n" + "\t".join(cells.values()) + "\n", encoding="utf-8",
+        stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    told = [json.loads(line) for line in run.stdout.splitlines()]
+    return next(each for each in told if "sum" in each or "fault" in each)
+
+
+def cell_faults(document, environment):
+    signs = [(), ("--decimal", ","), ("--decimal", ".")]
+    for line, (amount, *expected) in document.table("Amount"):
+        for options, text in zip(signs, expected):
+            told = read_as(environment, {"amount": code(amount)}, *options)
+            found = told.get("sum") or told["fault"]
+            if found != text:
+                yield line, f"{amount} {' '.join(options)} is '{found}'"
+    for line, (date, expected) in document.table("Date"):
+        told = read_as(environment, {"date": code(date)})
+        found = told["sums"][0]["date"] if "sums" in told else told["fault"]
+        if found != expected:
+            yield line, f"{date} is '{found}'"
+
+
+def spreadsheet_faults(document, root, helps, environment):
+    yield from cell_faults(document, environment)
+    wanted = {}
+    source = (root / "cli/files/column_names.cpp").read_text()
+    for name, key in re.findall(r'^    \{"([^"]+)", "(\w+)"\},$', source, re.M):
+        wanted.setdefault(key, set()).add(name)
+    listed = {code(key): (line, set(codes(names))) for line, (key, names) in document.table("Key")}
+    for key in sorted(set(wanted) | set(listed)):
+        line, names = listed.get(key, (1, set()))
+        for name in sorted(names ^ wanted.get(key, set())):
+            yield line, f"{key}: '{name}' is " + ("unknown" if name in names else "missing")
+    warnings = re.search(r"Leave warnings out:([a-z,\s-]+)", helps["credit-transfer"])[1]
+    known = set(re.findall(r"[a-z-]+", warnings.split("\n  --")[0]))
+    told = {code(cells[0]) for _, cells in document.table("Warning")}
+    for name in sorted(known ^ told):
+        yield 1, f"warning {name} is " + ("missing" if name in known else "unknown")
