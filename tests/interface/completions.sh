@@ -84,7 +84,7 @@ compare bash
 # An equals sign is a word of its own; what is no word of a command line is escaped.
 COMP_WORDS=(tivex iban convert --delimiter "=" "") COMP_CWORD=5
 _tivex
-[ "${COMPREPLY[*]}" = ', \; tab' ] || { echo "bash: --delimiter="; failures=$((failures + 1)); }
+[ "${COMPREPLY[*]}" = ', \; auto tab \|' ] || { echo "bash: --delimiter="; failures=$((failures + 1)); }
 
 if command -v fish >/dev/null; then compare fish; fi
 if command -v zsh >/dev/null; then compare_zsh; fi
