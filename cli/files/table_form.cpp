@@ -24,7 +24,8 @@ bool is_line_end(char c) { return c == '\n' || c == '\r'; }
 // The length of the blank lines at the start.
 std::size_t blank_length(std::string_view text) {
   std::size_t start = 0;
-  for (std::size_t at = 0; at < text.size() && " \t\r\n"sv.find(text[at]) != std::string_view::npos; ++at) {
+  for (std::size_t at = 0; at < text.size() && " \t\r\n"sv.find(text[at]) != std::string_view::npos;
+       ++at) {
     // A line may start with tabs that separate empty cells.
     if (is_line_end(text[at])) start = at + 1;
   }
