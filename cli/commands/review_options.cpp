@@ -3,8 +3,8 @@
 #include <CLI/CLI.hpp>
 
 #include "files/date_text.h"
-#include "payments/warning_rules.h"
 #include "terminal/diagnostics.h"
+#include "warnings/warning_rules.h"
 
 namespace tivex_program {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "payments/date_sums.h"
 #include "payments/table_facts.h"
+#include "warnings/date_sums.h"
 
 namespace tivex_program {
 

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "payments/payment_message.h"
-#include "payments/payment_notes.h"
 #include "payments/payment_review.h"
 #include "payments/transactions.h"
 #include "terminal/fault_report.h"
+#include "warnings/payment_notes.h"
 
 namespace tivex_program {
 

@@ -7,7 +7,7 @@
 
 #include "payments/document_summary.h"
 #include "payments/payment_message.h"
-#include "payments/payment_notes.h"
+#include "warnings/payment_notes.h"
 
 namespace tivex_program {
 

@@ -10,16 +10,16 @@
 
 #include "files/csv_reader.h"
 #include "payments/admitted_characters.h"
-#include "payments/calendar.h"
 #include "payments/columns.h"
-#include "payments/line_memory.h"
-#include "payments/payment_dates.h"
 #include "payments/payment_message.h"
-#include "payments/payment_notes.h"
 #include "payments/payment_report.h"
 #include "payments/row_fault.h"
 #include "payments/unknown_banks.h"
-#include "payments/warning_rules.h"
+#include "warnings/calendar.h"
+#include "warnings/line_memory.h"
+#include "warnings/payment_dates.h"
+#include "warnings/payment_notes.h"
+#include "warnings/warning_rules.h"
 
 namespace tivex_program {
 

@@ -1,4 +1,4 @@
-#include "payments/calendar.h"
+#include "warnings/calendar.h"
 
 #include <cstdio>
 #include <ctime>

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "payments/calendar.h"
+#include "warnings/calendar.h"
 
 namespace tivex_program {
 

@@ -1,4 +1,4 @@
-#include "payments/payment_notes.h"
+#include "warnings/payment_notes.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "payments/warning_rules.h"
+#include "warnings/warning_rules.h"
 
 #include <tivex.h>
 

@@ -1,4 +1,4 @@
-#include "payments/payment_dates.h"
+#include "warnings/payment_dates.h"
 
 #include <utility>
 

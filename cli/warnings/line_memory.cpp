@@ -1,4 +1,4 @@
-#include "payments/line_memory.h"
+#include "warnings/line_memory.h"
 
 #include <algorithm>
 #include <cstring>

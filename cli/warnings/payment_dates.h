@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "payments/calendar.h"
-#include "payments/date_sums.h"
-#include "payments/warning_rules.h"
+#include "warnings/calendar.h"
+#include "warnings/date_sums.h"
+#include "warnings/warning_rules.h"
 
 namespace tivex_program {
 
