@@ -43,12 +43,6 @@ bool has_prescribed_form(std::string_view text) {
   return text.size() == 10 && text[4] == '-' && text[7] == '-';
 }
 
-int number_of(std::string_view digits) {
-  int value = 0;
-  for (const char c : digits) value = value * 10 + (c - '0');
-  return value;
-}
-
 constexpr int century = 2000;
 constexpr int latest_of_two_digits = 69;
 
@@ -56,11 +50,20 @@ constexpr int latest_of_two_digits = 69;
 
 std::optional<std::chrono::year_month_day> prescribed_date(std::string_view text) {
   if (!has_prescribed_form(text)) return std::nullopt;
-  const std::string_view parts[] = {text.substr(0, 4), text.substr(5, 2), text.substr(8, 2)};
-  for (const std::string_view part : parts) {
-    if (!std::ranges::all_of(part, is_digit)) return std::nullopt;
-  }
-  return date_of(number_of(parts[0]), number_of(parts[1]), number_of(parts[2]));
+  bool digits = true;
+  const auto number = [&](std::size_t start, std::size_t end) {
+    int value = 0;
+    for (std::size_t at = start; at < end; ++at) {
+      digits &= is_digit(text[at]);
+      value = value * 10 + (text[at] - '0');
+    }
+    return value;
+  };
+  const int year = number(0, 4);
+  const int month = number(5, 7);
+  const int day = number(8, 10);
+  if (!digits) return std::nullopt;
+  return date_of(year, month, day);
 }
 
 date_flaw read_date(std::string& text) {

@@ -28,10 +28,7 @@ read_cell refused(const char* fault, std::string detail, const char* advice) {
 }  // namespace
 
 read_cell amount_column::read(std::string& cell, std::size_t line) {
-  bool has_point = false;
-  const bool prescribed = is_prescribed_amount(cell, has_point);
-  // Most amounts are written so.
-  if (prescribed && (!has_point || sign() == decimal_sign::point)) return {};
+  if (takes_as_it_is(cell)) return {};
   const written_amount amount = read_amount(cell);
   if (*amount.fault != '\0') return refused(amount.fault, {}, write_advice);
   if (wished_ == decimal_sign::unknown && !amount.is_clear()) {

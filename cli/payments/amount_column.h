@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "files/amount_text.h"
 
@@ -28,6 +29,12 @@ class amount_column {
   // A sign that is wished decides; one that is found may be contradicted.
   explicit amount_column(decimal_sign wished, decimal_evidence found = {})
       : wished_(wished), evidence_(found) {}
+
+  // Whether the amount is written so already; most are.
+  bool takes_as_it_is(std::string_view cell) const {
+    bool has_point = false;
+    return is_prescribed_amount(cell, has_point) && (!has_point || sign() == decimal_sign::point);
+  }
 
   // Writes the amount as the library reads it.
   read_cell read(std::string& cell, std::size_t line);

@@ -68,6 +68,7 @@ void row_values::read_cell_of(csv_row& row, std::size_t place, std::vector<row_f
     return faults.push_back({.key = known.key, .reason = std::move(reason)});
   }
   if (known.form == value_form::text) return;
+  if (known.form == value_form::amount && amounts_.takes_as_it_is(cell)) return;
   const std::string before = cell;
   if (known.form == value_form::amount) {
     const read_cell read = amounts_.read(cell, row.line);

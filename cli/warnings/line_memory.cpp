@@ -12,12 +12,15 @@ std::uint64_t mixed(std::uint64_t number, std::uint64_t further) {
 
 std::uint64_t text_number(std::string_view text, std::uint64_t start) {
   std::uint64_t number = mixed(start, text.size());
-  for (; !text.empty(); text.remove_prefix(std::min(text.size(), sizeof(number)))) {
-    std::uint64_t part = 0;
-    std::memcpy(&part, text.data(), std::min(text.size(), sizeof part));
+  std::uint64_t part = 0;
+  // A copy of known length is one instruction.
+  for (; text.size() >= sizeof part; text.remove_prefix(sizeof part)) {
+    std::memcpy(&part, text.data(), sizeof part);
     number = mixed(number, part);
   }
-  return number;
+  part = 0;
+  for (const char c : text) part = part << 8 | static_cast<unsigned char>(c);
+  return mixed(number, part);
 }
 
 const line_mark& line_memory::find_or_add(const line_mark& wanted) {
